@@ -1,0 +1,31 @@
+# How every target of the project is compiled: linked privately, so that nothing leaks to users of a library.
+add_library(build_options INTERFACE)
+target_include_directories(build_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(
+  build_options
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Wshadow
+            -Wconversion
+            -Wno-sign-conversion # cell indices are never negative
+            -Wno-missing-field-initializers # what a designated initializer leaves out has its default
+            -Wold-style-cast
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            -Wcast-align
+            -Wimplicit-fallthrough
+            -Werror)
+target_compile_definitions(build_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
+
+if(ZAMPOTINE_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(build_options INTERFACE ${sanitizers})
+  target_link_options(build_options INTERFACE ${sanitizers})
+endif()
+
+# zampotine_library(NAME sources...): the library of one folder.
+function(zampotine_library name)
+  add_library(${name} STATIC ${ARGN})
+  target_link_libraries(${name} PRIVATE build_options)
+endfunction()

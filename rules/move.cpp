@@ -1,0 +1,78 @@
+#include "rules/move.h"
+
+#include "rules/outcome.h"
+#include "rules/settle.h"
+
+namespace rules {
+
+bool isGroup(const Board& board, int i) {
+    if (!board.contains(i)) {
+        return false;
+    }
+    const auto cell = static_cast<CellIndex>(i);
+    const Code code = board[cell];
+    bool match = false;
+    if (code != Code::none) {
+        forEachNeighbour(board, cell, [&](CellIndex neighbour) { match |= board[neighbour] == code; });
+    }
+    return match;
+}
+
+void efface(Board& board, CellIndex K, Code t, int& S, Host& host) {
+    // The balls still to visit, the next one on top: pushed in reverse and looked at again when taken, they
+    // come in the order of a recursion, which a group of thousands of balls would drive through the bottom of
+    // the stack.
+    std::vector<CellIndex> pending{K};
+    while (!pending.empty()) {
+        const CellIndex cell = pending.back();
+        pending.pop_back();
+        if (board[cell] != t) {
+            continue;
+        }
+        board[cell] = Code::none;
+        ++S;
+        host.cellCleared(cell);
+        host.yield();
+
+        std::array<CellIndex, 4> next{};
+        std::size_t count = 0;
+        forEachNeighbour(board, cell, [&](CellIndex neighbour) {
+            if (board[neighbour] == t) {
+                next[count++] = neighbour;
+            }
+        });
+        while (count > 0) {
+            pending.push_back(next[--count]);
+        }
+    }
+}
+
+void playMove(Game& game, int i, Host& host) {
+    if (!isGroup(game.board, i)) {
+        return;
+    }
+    const auto pressed = static_cast<CellIndex>(i);
+    int S = 0;
+    efface(game.board, pressed, game.board[pressed], S, host);
+
+    game.score += pointsFor(S);
+    host.scoreChanged();
+    host.lastMoveChanged(lastMoveText(S));
+    host.playWave(soundFor(S));
+
+    game.Total = static_cast<std::int16_t>(game.Total - S);
+    host.remainingChanged(remainingText(game.Total, game.NBBoules));
+
+    settle(game.board);
+    host.boardSettled();
+
+    if (game.Total == 1) {
+        host.gameEnded();
+    } else if (game.Total == 0) {
+        game.score *= 2;
+        host.scoreChanged();
+        host.gameEnded();
+    }
+}
+
+}  // namespace rules

@@ -1,0 +1,25 @@
+#include "rules/board.h"
+
+#include "tests/rules/pictures.h"
+
+namespace rules {
+namespace {
+
+TEST(Board, TextFormShowsRowsFromTheTopAndComesBack) {
+    const Board board = picture("r.b .vj pg.");
+    EXPECT_EQ(board.cells, (std::vector{Code::red, Code::none, Code::magenta, Code::none, Code::green, Code::grey,
+                                        Code::blue, Code::yellow, Code::none}));
+    EXPECT_EQ(print(board), "r.b\n.vj\npg.\n");
+    EXPECT_EQ(parse(print(board)), board);
+}
+
+TEST(Board, TextThatShowsNoBoardIsRefused) {
+    for (const std::string& text : {std::string{}, std::string{"\n"}, std::string{"rb\nr"}, std::string{"rx"},
+                                    std::string{"r\n\nb"}, std::string(32768, 'r'), std::string{"R"}}) {
+        EXPECT_FALSE(parse(text)) << text.substr(0, 20);
+    }
+    EXPECT_TRUE(parse(std::string(32767, 'r')));
+}
+
+}  // namespace
+}  // namespace rules

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <algorithm>
+#include <vector>
+
+#include "rules/game.h"
+#include "rules/random.h"
+
+/// The rules in their plainest form, pass by pass and cell by cell: too slow or too deep to play with, simple
+/// enough to be trusted. What the game runs on must equal them.
+namespace plain {
+
+using rules::Board;
+using rules::CellIndex;
+using rules::Code;
+
+inline CellIndex index(int i) {
+    return static_cast<CellIndex>(i);
+}
+
+inline void settle(Board& board) {
+    const auto moveContent = [&](int from, int to) {
+        board[index(to)] = board[index(from)];
+        board[index(from)] = Code::none;
+    };
+    const int cells = static_cast<int>(board.cells.size());
+    for (int pass = 0; pass < board.NbLig; ++pass) {
+        for (int i = cells - 1; i >= 0; --i) {
+            if (i % board.NbLig > 0 && board[index(i)] == Code::none) {
+                moveContent(i - 1, i);
+            }
+        }
+    }
+    for (int col = board.NbCol - 1; col >= 0; --col) {
+        const auto top = board.cells.begin() + static_cast<std::ptrdiff_t>(col) * board.NbLig;
+        if (std::all_of(top, top + board.NbLig, [](Code code) { return code == Code::none; })) {
+            for (int i = (col + 1) * board.NbLig; i < cells; ++i) {
+                moveContent(i, i - board.NbLig);
+            }
+        }
+    }
+}
+
+/// Clears the group of cell K recursively and appends each cell in the order of its removal.
+inline void efface(Board& board, int K, Code t, std::vector<CellIndex>& removed) {
+    board[index(K)] = Code::none;
+    removed.push_back(index(K));
+    const int col = K / board.NbLig;
+    const int row = K - col * board.NbLig;
+    if (row > 0 && board[index(K - 1)] == t) {
+        efface(board, K - 1, t, removed);
+    }
+    if (row < board.NbLig - 1 && board[index(K + 1)] == t) {
+        efface(board, K + 1, t, removed);
+    }
+    if (col > 0 && board[index(K - board.NbLig)] == t) {
+        efface(board, K - board.NbLig, t, removed);
+    }
+    if (col < board.NbCol - 1 && board[index(K + board.NbLig)] == t) {
+        efface(board, K + board.NbLig, t, removed);
+    }
+}
+
+/// Fills the board, walking over the filled cells.
+inline void deal(Board& board, int NbCoul, const rules::Draw& draw) {
+    const int cells = static_cast<int>(board.cells.size());
+    std::ranges::fill(board.cells, Code::none);
+    for (int ball = 0; ball < cells; ++ball) {
+        int p = static_cast<int>(static_cast<double>(draw()) * cells);
+        while (board[index(p)] != Code::none) {
+            p = p + 1 == cells ? 0 : p + 1;
+        }
+        board[index(p)] = rules::codes[ball % NbCoul];
+    }
+}
+
+}  // namespace plain

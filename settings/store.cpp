@@ -1,0 +1,165 @@
+#include "settings/store.h"
+
+#include <optional>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include "settings/file.h"
+#include "settings/inifile.h"
+#include "settings/number.h"
+
+using namespace Qt::StringLiterals;
+
+namespace settings {
+
+namespace {
+
+constexpr QLatin1StringView backupSuffix = ".bak"_L1;
+constexpr QLatin1StringView rejectedSuffix = ".bad"_L1;
+constexpr QLatin1StringView lockSuffix = ".lock"_L1;
+
+/// The text that a raise leaves where the other one is: the new one, unless the other holds a number as high.
+QString raised(const QString& current, const QString& text) {
+    const std::optional<double> standing = numberIn(current);
+    const std::optional<double> candidate = numberIn(text);
+    return standing && (!candidate || *standing >= *candidate) ? current : text;
+}
+
+void makeFolder(const QString& folder) {
+    QDir root;
+    // A configuration folder is nobody else's business; the folders above it are made in the usual way.
+    if (!root.mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner)) {
+        root.mkpath(folder);
+    }
+}
+
+}  // namespace
+
+Store::Store(QString iniPath) : path(std::move(iniPath)) {}
+
+QString Store::read(const QString& section, const QString& key, const QString& fallback) const {
+    const Stored now = stored();
+    const auto change = unsaved.find({section, key});
+    if (change != unsaved.end()) {
+        return standing(now, change->first, change->second);
+    }
+    return valueIn(now.settings, section, key).value_or(fallback);
+}
+
+void Store::write(const QString& section, const QString& key, const QString& text) {
+    unsaved[{section, key}] = {Change::Kind::write, text, {}};
+    save(Locking::required);
+}
+
+QString Store::raise(const QString& section, const QString& key, const QString& text) {
+    const auto [change, isFirst] = unsaved.try_emplace({section, key}, Change{Change::Kind::raise, text, {}});
+    if (!isFirst) {
+        change->second.text = raised(change->second.text, text);
+    }
+    save(Locking::required);
+    return read(section, key, text);
+}
+
+void Store::reset(const QString& section, const QString& key) {
+    write(section, key, u"0"_s);
+    const auto change = unsaved.find({section, key});
+    if (change != unsaved.end()) {
+        change->second.kind = Change::Kind::reset;
+        change->second.base = stored().file;
+    }
+}
+
+void Store::flush() {
+    save(Locking::attempted);
+}
+
+Store::Stored Store::stored() const {
+    const FileContent file = readFile(path);
+    if (file.state == FileContent::State::unavailable) {
+        return {};
+    }
+    if (file.state == FileContent::State::missing || isIniFile(file.bytes)) {
+        return {true, file.bytes, file.bytes};
+    }
+    const FileContent backup = readFile(path + backupSuffix);
+    return {backup.state != FileContent::State::unavailable, isIniFile(backup.bytes) ? backup.bytes : QByteArray(),
+            file.bytes};
+}
+
+/// The text that the key has once the change is saved over what is stored.
+QString Store::standing(const Stored& stored, const Name& name, const Change& change) {
+    if (change.kind == Change::Kind::write || (change.kind == Change::Kind::reset && change.base == stored.file)) {
+        return change.text;
+    }
+    // A reset that came too late is a raise to what was scored since.
+    const std::optional<QString> current = valueIn(stored.settings, name.first, name.second);
+    return current ? raised(*current, change.text) : change.text;
+}
+
+void Store::save(Locking locking) {
+    if (path.isEmpty() || unsaved.empty()) {
+        return;
+    }
+    makeFolder(QFileInfo(path).path());
+    QFile lockFile(path + lockSuffix);
+    const bool locked = lock(lockFile, patience);
+    if (!locked && locking == Locking::required) {
+        return;
+    }
+    const Stored old = stored();
+    if (!old.available) {
+        return;
+    }
+    QByteArray settings = old.settings;
+    std::map<Name, Change> unsavable;
+    for (const auto& [name, change] : unsaved) {
+        const QByteArray next = withValue(settings, name.first, name.second, standing(old, name, change));
+        if (next.size() <= maxFileSize) {
+            settings = next;
+        } else {
+            unsavable.emplace(name, change);
+        }
+    }
+    if (settings != old.file) {
+        if (locked) {
+            removeLeftovers(path);
+            removeLeftovers(path + backupSuffix);
+            removeLeftovers(path + rejectedSuffix);
+        }
+        if (!replace(old, settings)) {
+            return;
+        }
+    }
+    unsaved = std::move(unsavable);
+}
+
+/// Puts the settings in the place of what is stored. At every moment one of the file and its backup is whole.
+bool Store::replace(const Stored& old, const QByteArray& settings) const {
+    const bool isRejected = old.file != old.settings && !old.file.isEmpty();
+    if (isRejected && !replaceFile(path + rejectedSuffix, old.file)) {
+        return false;
+    }
+    if (!replaceFile(path, settings)) {
+        return false;
+    }
+    // The file is safe on the disk by now: the copy, against damage by others, need neither succeed nor be
+    // waited for.
+    replaceCopy(path + backupSuffix, settings);
+    return true;
+}
+
+QString defaultPath(const QString& executable) {
+    QString base = qEnvironmentVariable("XDG_CONFIG_HOME");
+    if (!base.startsWith(u'/')) {
+        const QString home = qEnvironmentVariable("HOME");
+        if (!home.startsWith(u'/')) {
+            return {};
+        }
+        base = home + u"/.config"_s;
+    }
+    return base + u'/' + QFileInfo(executable).completeBaseName() + u".ini"_s;
+}
+
+}  // namespace settings

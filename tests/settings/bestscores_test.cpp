@@ -1,0 +1,63 @@
+#include "settings/bestscores.h"
+
+#include <array>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "settings/number.h"
+#include "tests/settings/folder.h"
+
+namespace {
+
+struct BestScores : testing::Test {
+    Folder folder;
+    settings::Store store{folder.ini};
+    settings::BestScores scores{store};
+};
+
+TEST(Number, IsReadStrictlyAndSpeltPlainly) {
+    for (const QString& text : {u""_s, u"12x"_s, u"1,000"_s, u"0x10"_s, u"nan"_s, u"-inf"_s, u"1e999"_s}) {
+        EXPECT_EQ(settings::numberIn(text), std::nullopt) << testing::PrintToString(text);
+    }
+    EXPECT_EQ(settings::plainDecimal(1e15), u"1000000000000000"_s);
+}
+
+TEST_F(BestScores, FollowAScoreThatPassesThemAndStartAnewAfterAReset) {
+    const std::vector<std::array<QString, 3>> rows = {
+        {u"120"_s, u"100"_s, u"120"_s}, {u"120.0"_s, u"120"_s, u"120.0"_s}, {u"9"_s, u"10"_s, u"10"_s},
+        {u"abc"_s, u"0"_s, u"0"_s},     {u"5"_s, u"x"_s, u"5"_s},           {u"5"_s, u" 6 "_s, u"6"_s},
+    };
+    for (const auto& [stored, score, best] : rows) {
+        SCOPED_TRACE(testing::PrintToString(stored) + " and " + testing::PrintToString(score));
+        folder.put("[init]\n1=" + stored.toUtf8() + "\n3=40\n");
+        scores.load();
+        scores.sc_Change(1, score);
+        EXPECT_EQ(scores.hsc(1), best);
+        EXPECT_EQ(scores.hsc(3), u"40"_s);
+        EXPECT_EQ(folder.bytes(), "[init]\n1=" + best.toUtf8() + "\n3=40\n");
+        scores.reset(1);
+        EXPECT_EQ(folder.bytes(), "[init]\n1=0\n3=40\n");
+        scores.sc_Change(1, u"2"_s);
+        EXPECT_EQ(folder.bytes(), "[init]\n1=2\n3=40\n");
+    }
+}
+
+TEST_F(BestScores, TakeOverAHigherScoreOfAnotherCopy) {
+    folder.put("[init]\n0=500\n");
+    scores.sc_Change(0, u"130"_s);
+    EXPECT_EQ(scores.hsc(0), u"500"_s);
+}
+
+TEST_F(BestScores, OtherLevelsHaveNone) {
+    folder.put("[init]\n-1=8\n5=9\n");
+    for (const int level : {-1, 5}) {
+        scores.load(level);
+        scores.sc_Change(level, u"10"_s);
+        scores.reset(level);
+        EXPECT_EQ(scores.hsc(level), u"0"_s);
+    }
+    EXPECT_EQ(folder.bytes(), "[init]\n-1=8\n5=9\n");
+}
+
+}  // namespace

@@ -1,0 +1,69 @@
+#include "settings/inifile.h"
+
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/settings/folder.h"
+
+using namespace settings;
+
+namespace {
+
+TEST(IniFile, ReadsWhatAPersonMayWrite) {
+    const std::vector<std::pair<QByteArray, QString>> rows = {
+        {"\xEF\xBB\xBF[init]\nCol=30", u"30"_s},
+        {"; ours\r\n\r\n  [ init ] \r\n\t Col \t=  30 \r\n", u"30"_s},
+        {"[init]\nCol=1\nCol=2\n[other]\nCol=3\n[init]\nCol=4\n", u"4"_s},
+        {"[init]\nCol=\n", u""_s},
+        {"Col=1\n[Init]\nCol=2\n[init\nCol=3\n", none},
+        {"[init]\n;Col=1\n#Col=2\ncol=3\nCol\n", none},
+        {"[init]\nCol==a=b;c#d\n", u"=a=b;c#d"_s},
+        {"[init]\nCol=C:\\new\\u41\n", u"C:\\new\\u41"_s},
+        {"[init]\nCo\\u006c=\\\\n\\u000a\\u0020\n", u"\\n\n "_s},
+    };
+    for (const auto& [file, value] : rows) {
+        EXPECT_EQ(valueIn(file, init, col).value_or(none), value) << testing::PrintToString(file);
+    }
+}
+
+TEST(IniFile, ChangesOneLineAndNoOther) {
+    const std::vector<std::pair<QByteArray, QByteArray>> rows = {
+        {"[init]\n  Col = 30", "[init]\n  Col = 30"},
+        {"[init]", "[init]\nCol=30\n"},
+        {"\xEF\xBB\xBF#junk", "\xEF\xBB\xBF#junk\n[init]\nCol=30\n"},
+        {"\xEF\xBB\xBF[init]\r\nCol=1\r\nLig=2", "\xEF\xBB\xBF[init]\r\nCol=30\r\nLig=2"},
+        {"[init]\nCol=1\nCol=2", "[init]\nCol=1\nCol=30\n"},
+        {"[init]\nLig=2\n\n; notes\n[more]\nx=y\n", "[init]\nLig=2\nCol=30\n\n; notes\n[more]\nx=y\n"},
+    };
+    for (const auto& [before, after] : rows) {
+        EXPECT_TRUE(isIniFile(before)) << testing::PrintToString(before);
+        EXPECT_EQ(withValue(before, init, col, u"30"_s), after) << testing::PrintToString(before);
+    }
+}
+
+TEST(IniFile, AnyTextComesBackInAnyPlace) {
+    const QStringList texts{u""_s,  u" 2\t"_s,           u"[a]\r\nCol=1"_s,    u"[x]"_s,           u"; a"_s,
+                            u"#"_s, u"\\u0041\\\\n\\"_s, u"\0\xD800x\xDC00"_s, u"\uFEFFé🎱\u00A0"_s};
+    QByteArray file = "[init]\nLig=2\n";
+    for (const QString& text : texts) {
+        file = withValue(file, init, text, text);
+        file = withValue(file, text, col, text);
+    }
+    EXPECT_TRUE(isIniFile(file));
+    for (const QString& text : texts) {
+        EXPECT_EQ(valueIn(file, init, text), text);
+        EXPECT_EQ(valueIn(file, text, col), text);
+    }
+    EXPECT_EQ(valueIn(file, init, u"Lig"_s), u"2"_s);
+    EXPECT_EQ(valueIn(file, init, col), std::nullopt);
+}
+
+TEST(IniFile, IsNoGarbage) {
+    for (const QByteArray& file : {"\n"_ba, "\xEF\xBB\xBF"_ba, "[init]\nCol=\xE9\n"_ba, "[init]\n\0"_ba, "[ini"_ba}) {
+        EXPECT_FALSE(isIniFile(file)) << testing::PrintToString(file);
+    }
+}
+
+}  // namespace

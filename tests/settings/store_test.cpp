@@ -1,0 +1,246 @@
+#include "settings/store.h"
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <map>
+#include <thread>
+#include <vector>
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "tests/settings/folder.h"
+
+using namespace std::chrono_literals;
+using settings::Store;
+
+namespace {
+
+const QString zero = u"0"_s;
+
+/// Lets no file grow beyond a size, as on a full disk.
+void limitFiles(rlim_t size) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = std::min(size, limit.rlim_max);
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+struct StoreTest : testing::Test {
+    Folder folder;
+    Store store{folder.ini};
+};
+
+TEST_F(StoreTest, NeedsNoFileAndCreatesItsFolderAtTheFirstSave) {
+    EXPECT_EQ(store.read(init, col, u"25"_s), u"25"_s);
+    store.flush();
+    EXPECT_TRUE(folder.names().isEmpty());
+    const QString deep = folder.folder.filePath(u"new/deep/game.ini"_s);
+    Store(deep).write(init, col, u"30"_s);
+    EXPECT_EQ(Store(deep).read(init, col, none), u"30"_s);
+
+    Store memory{QString()};
+    EXPECT_EQ(memory.raise(init, zero, u"5"_s), u"5"_s);
+    EXPECT_EQ(memory.raise(init, zero, u"4"_s), u"5"_s);
+}
+
+TEST_F(StoreTest, SavesWholeThroughALinkAndOnlyWhenSomethingChanges) {
+    folder.put("; mine\n[other]\nx=y\n[init]\nLig=2\n", u".real"_s);
+    for (const QString& leftover :
+         {u".real.aBcDeF"_s, u".bak.GhIjKl"_s, u".real.backup"_s, u".real.Ancien"_s, u".real.aBcDeFg"_s}) {
+        folder.put("[init]\nLig=1", leftover);
+    }
+    chmod(QFile::encodeName(folder.ini + u".real"_s).constData(), 0640);
+    QFile::link(folder.ini + u".real"_s, folder.ini);
+    store.write(init, col, u"30"_s);
+    EXPECT_EQ(folder.bytes(u".real"_s), "; mine\n[other]\nx=y\n[init]\nLig=2\nCol=30\n");
+    EXPECT_EQ(folder.bytes(u".bak"_s), folder.bytes(u".real"_s));
+    EXPECT_EQ(QFileInfo(folder.ini).permissions() & 0xFFF, QFile::Permissions::fromInt(0x640));
+    EXPECT_EQ(folder.names().join(u' '),
+              u"game.ini game.ini.bak game.ini.lock game.ini.real game.ini.real.aBcDeFg game.ini.real.Ancien "
+              u"game.ini.real.backup"_s);
+    folder.put("damaged", u".bak"_s);
+    store.write(init, col, u"30"_s);
+    EXPECT_EQ(folder.bytes(u".bak"_s), "damaged");
+}
+
+TEST_F(StoreTest, SetsGarbageAsideAndReadsTheBackupInstead) {
+    store.write(init, col, u"30"_s);
+    folder.put("");
+    EXPECT_EQ(store.read(init, col, none), u"30"_s);
+    folder.put("junk");
+    EXPECT_EQ(store.read(init, col, none), u"30"_s);
+    store.write(init, u"Lig"_s, u"40"_s);
+    EXPECT_EQ(folder.bytes(), "[init]\nCol=30\nLig=40\n");
+    EXPECT_EQ(folder.bytes(u".bad"_s), "junk");
+    QFile::remove(folder.ini);
+    EXPECT_EQ(store.read(init, col, none), none);
+}
+
+TEST(Store, LeavesGarbageAloneUntilItAndTheBackupAreSafe) {
+    for (const QString& suffix : {u".bad"_s, u".bak"_s}) {
+        const Folder folder;
+        folder.put("junk");
+        QDir().mkdir(folder.ini + suffix);
+        Store store(folder.ini);
+        store.write(init, col, u"30"_s);
+        EXPECT_EQ(folder.bytes(), "junk");
+        QDir().rmdir(folder.ini + suffix);
+        folder.put("junk too", u".bak"_s);
+        store.flush();
+        EXPECT_EQ(folder.bytes(), "[init]\nCol=30\n");
+        EXPECT_EQ(folder.bytes(u".bad"_s), "junk");
+    }
+}
+
+TEST(Store, WritesOverNothingThatItCannotRead) {
+    const std::map<const char*, int (*)(const char* path)> unreadable = {
+        {"FIFO", [](const char* path) { return mkfifo(path, 0666); }},
+        {"directory", [](const char* path) { return mkdir(path, 0777); }},
+        {"device", [](const char* path) { return symlink("/dev/zero", path); }},
+        {"link loop", [](const char* path) { return symlink("game.ini", path); }},
+        {"too large", [](const char* path) { return close(creat(path, 0666)) + truncate(path, (1 << 20) + 1); }},
+        {"no permission", [](const char* path) { return close(creat(path, 0222)); }},
+    };
+    const uid_t user = geteuid();
+    for (const auto& [name, make] : unreadable) {
+        SCOPED_TRACE(name);
+        const Folder folder;
+        chmod(QFile::encodeName(folder.folder.path()).constData(), 0777);
+        EXPECT_EQ(seteuid(user == 0 ? 65534 : user), 0) << "root reads and writes whatever the modes";
+        EXPECT_EQ(make(QFile::encodeName(folder.ini).constData()), 0);
+        Store store(folder.ini);
+        EXPECT_EQ(store.raise(init, zero, u"9"_s), u"9"_s);
+        store.flush();
+        EXPECT_EQ(folder.names().join(u' '), u"game.ini game.ini.lock"_s);
+        EXPECT_EQ(std::remove(QFile::encodeName(folder.ini).constData()), 0);
+        store.flush();
+        EXPECT_EQ(folder.bytes(), "[init]\n0=9\n");
+        EXPECT_EQ(seteuid(user), 0);
+    }
+}
+
+TEST_F(StoreTest, AFullDiskCostsNothing) {
+    const QByteArray before = "[init]\n0=120\n1=50\n2=60\nx=" + QByteArray(100, 'y') + "\n";
+    folder.put(before);
+    for (const rlim_t size : {0U, 1U, 60U}) {
+        limitFiles(size);
+        store.write(init, zero, u"130"_s);
+        store.reset(init, u"1"_s);
+        store.reset(init, u"2"_s);
+        store.flush();
+    }
+    limitFiles(RLIM_INFINITY);
+    EXPECT_EQ(folder.bytes(), before);
+    EXPECT_EQ(folder.names().join(u' '), u"game.ini game.ini.lock"_s);
+    EXPECT_EQ(store.read(init, zero, none), u"130"_s);
+    EXPECT_EQ(store.read(init, u"1"_s, none), zero);
+    EXPECT_EQ(store.raise(init, u"2"_s, u"10"_s), u"10"_s);  // above the reset
+    EXPECT_EQ(folder.bytes(), QByteArray(before).replace("120", "130").replace("=50", "=0").replace("60", "10"));
+}
+
+TEST_F(StoreTest, ATextBeyondTheSizeThatIsReadHoldsNothingElseBack) {
+    store.write(init, u"Lig"_s, QString(1 << 20, u'x'));
+    store.write(init, col, u"30"_s);
+    EXPECT_EQ(folder.bytes(), "[init]\nCol=30\n");
+    EXPECT_EQ(store.read(init, u"Lig"_s, none).size(), 1 << 20);
+}
+
+TEST_F(StoreTest, TwoCopiesNeverLowerABestScore) {
+    const pid_t child = fork();
+    int falls = 0;
+    for (int score = child == 0 ? 1 : 2; score <= 300; score += 2) {
+        for (const QString& level : {zero, u"1"_s}) {
+            Store(folder.ini).raise(init, level, QString::number(score));
+            falls += Store(folder.ini).read(init, level, zero).toInt() < score ? 1 : 0;
+        }
+    }
+    if (child == 0) {
+        _exit(falls == 0 ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(falls + status, 0) << "how often a score was found lower than it was raised";
+    EXPECT_EQ(folder.bytes(), "[init]\n0=300\n1=300\n");
+}
+
+TEST_F(StoreTest, AKilledSaveLeavesTheOldFileOrTheNewOne) {
+    for (int round = 0; round < 40; ++round) {
+        const pid_t child = fork();
+        if (child == 0) {
+            for (int i = 0;; ++i) {
+                Store(folder.ini).write(init, col, QString(3000, QChar(u'a' + i % 26)));
+            }
+        }
+        std::this_thread::sleep_for(round * 120us);
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        const QString text = Store(folder.ini).read(init, col, u""_s);
+        EXPECT_TRUE(text.isEmpty() || text == QString(3000, text[0]));
+    }
+    Store(folder.ini).write(init, col, u"30"_s);
+    EXPECT_EQ(folder.bytes(), "[init]\nCol=30\n");
+    EXPECT_EQ(folder.names().filter(QRegularExpression(u"[A-Z]"_s)), QStringList()) << "temporary files";
+}
+
+TEST_F(StoreTest, AResetWinsEvenIfItWaitsForAnotherCopysSave) {
+    // Again if the machine was so busy that the reset waited in vain.
+    for (int round = 0; round < 5 && folder.bytes() != "[init]\n0=0\n"; ++round) {
+        folder.put("[init]\n0=120\n");
+        QFile other(folder.ini + u".lock"_s);
+        ASSERT_TRUE(other.open(QIODevice::ReadWrite) && flock(other.handle(), LOCK_EX) == 0);
+        std::thread save([&] {
+            std::this_thread::sleep_for(100ms);
+            folder.put("[init]\n0=200\n");
+            other.close();
+        });
+        Store(folder.ini).reset(init, zero);
+        save.join();
+    }
+    EXPECT_EQ(folder.bytes(), "[init]\n0=0\n");
+}
+
+TEST_F(StoreTest, WaitsForTheLockOnceAndAtClosingDoesWithoutIt) {
+    using Clock = std::chrono::steady_clock;
+    folder.put("[init]\n0=120\n1=50\n");
+    QFile other(folder.ini + u".lock"_s);
+    ASSERT_TRUE(other.open(QIODevice::ReadWrite) && flock(other.handle(), LOCK_EX) == 0);
+    const auto begin = Clock::now();
+    EXPECT_EQ(store.raise(init, zero, u"130"_s), u"130"_s);
+    EXPECT_GE(Clock::now() - begin, 1s);
+    for (int i = 0; i < 30; ++i) {
+        store.write(init, col, u"30"_s);
+    }
+    EXPECT_LT(Clock::now() - begin, 15s) << "each of the saves waits";
+    store.reset(init, u"1"_s);
+    folder.put("[init]\n0=200\n1=70\n");  // by the other copy
+    EXPECT_EQ(store.read(init, zero, none), u"200"_s);
+    EXPECT_EQ(store.read(init, u"1"_s, none), u"70"_s) << "scored after the reset";
+    store.flush();
+    EXPECT_EQ(folder.bytes(), "[init]\n0=200\n1=70\nCol=30\n");
+}
+
+TEST(Store, DefaultPathNeedsAnAbsoluteFolder) {
+    const std::vector<std::array<QString, 3>> rows = {
+        {u"/c"_s, u"/h"_s, u"/c/game-1.0.ini"_s},
+        {u""_s, u"/h"_s, u"/h/.config/game-1.0.ini"_s},
+        {u"c"_s, u"/h"_s, u"/h/.config/game-1.0.ini"_s},
+        {u"c"_s, u"h"_s, u""_s},
+    };
+    for (const auto& [config, home, path] : rows) {
+        qputenv("XDG_CONFIG_HOME", config.toUtf8());
+        qputenv("HOME", home.toUtf8());
+        EXPECT_EQ(settings::defaultPath(u"/opt/x.y/game-1.0.bin"_s), path);
+    }
+}
+
+}  // namespace

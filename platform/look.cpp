@@ -1,0 +1,69 @@
+#include "platform/look.h"
+
+#include <QApplication>
+#include <QProxyStyle>
+#include <QToolTip>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+namespace {
+
+// Fusion with the gap between indicator and text that the options' widths leave room for.
+class Style : public QProxyStyle {
+  public:
+    Style() : QProxyStyle(u"fusion"_s) {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        switch (metric) {
+            case PM_RadioButtonLabelSpacing:
+            case PM_CheckBoxLabelSpacing:
+                return 4;
+            case PM_IndicatorWidth:
+            case PM_IndicatorHeight:
+            case PM_ExclusiveIndicatorWidth:
+            case PM_ExclusiveIndicatorHeight:
+                return 13;
+            default:
+                return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+};
+
+QPalette steelPalette() {
+    const QColor field(steelBlue);
+    QPalette palette(field, field);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::ButtonText, Qt::black);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, Qt::darkGray);
+    palette.setColor(QPalette::Highlight, QColor(0x2A, 0x4D, 0x78));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x1A, 0x3D, 0x68));
+    palette.setColor(QPalette::LinkVisited, QColor(0x1A, 0x3D, 0x68));
+    palette.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xE1));
+    palette.setColor(QPalette::ToolTipText, Qt::black);
+    return palette;
+}
+
+}  // namespace
+
+QFont uiFont(FontSize size, QFont::Weight weight) {
+    QFont font;
+    font.setFamilies({u"Liberation Sans"_s, u"Arial"_s, u"Helvetica"_s});
+    font.setPixelSize(static_cast<int>(size));
+    font.setWeight(weight);
+    return font;
+}
+
+void applyLook() {
+    QApplication::setStyle(new Style);
+    QApplication::setPalette(steelPalette());
+    QApplication::setFont(uiFont());
+    QToolTip::setPalette(steelPalette());
+    QToolTip::setFont(uiFont());
+}
+
+}  // namespace platform

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QPixmap>
+#include <QRect>
+
+class QPainter;
+
+namespace platform {
+
+/// A picture control that its window paints: an element of a control array too large for widgets of its own.
+struct Picture {
+    int Left = 0;  ///< twips, inside the window
+    int Top = 0;   ///< twips, inside the window
+    bool Visible = false;
+    QPixmap image;
+
+    /// The area it covers, in pixels: the size of its image.
+    QRect area() const;
+};
+
+/// Draws a picture at its place, unless it is hidden or has no image.
+void draw(QPainter& painter, const Picture& picture);
+
+}  // namespace platform

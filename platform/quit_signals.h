@@ -1,0 +1,14 @@
+#pragma once
+
+#include <functional>
+
+class QObject;
+
+namespace platform {
+
+/// Runs an action, from the event loop, when the system asks the program to end (SIGTERM, SIGINT or SIGHUP).
+/// The action lives as long as its owner; only one at a time. If the system has no means left for it, the
+/// signals keep their usual effect.
+void onQuitSignal(QObject& owner, std::function<void()> action);
+
+}  // namespace platform

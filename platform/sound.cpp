@@ -1,0 +1,95 @@
+#include "platform/sound.h"
+
+#include <exception>
+#include <thread>
+#include <utility>
+
+#include "platform/sound_worker.h"
+
+namespace platform {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// Hands the names to a thread of its own and waits for it, but never longer than it promised.
+class WorkerSound final : public Sound {
+  public:
+    WorkerSound(std::vector<std::filesystem::path> soundFolders, SoundTiming soundTiming)
+        : folders(std::move(soundFolders)), timing(soundTiming) {}
+    WorkerSound(const WorkerSound&) = delete;
+    WorkerSound(WorkerSound&&) = delete;
+    WorkerSound& operator=(const WorkerSound&) = delete;
+    WorkerSound& operator=(WorkerSound&&) = delete;
+    ~WorkerSound() override;
+
+    void warmUp() override;
+    void play(const std::string& name) override;
+
+  private:
+    void startWorker();
+
+    std::vector<std::filesystem::path> folders;
+    SoundTiming timing;
+    std::shared_ptr<SoundMailbox> mailbox = std::make_shared<SoundMailbox>();
+    std::thread worker;
+};
+
+WorkerSound::~WorkerSound() {
+    if (!worker.joinable()) {
+        return;
+    }
+    std::unique_lock lock(mailbox->mutex);
+    mailbox->stop = true;
+    mailbox->changed.notify_all();
+    const bool hangs = mailbox->request.has_value();
+    if (!hangs && mailbox->changed.wait_for(lock, timing.grace, [this] { return mailbox->stopped; })) {
+        lock.unlock();
+        worker.join();
+    } else {
+        worker.detach();
+    }
+}
+
+void WorkerSound::warmUp() {
+    try {
+        startWorker();
+        const std::lock_guard lock(mailbox->mutex);
+        mailbox->warmUp = true;
+        mailbox->changed.notify_all();
+    } catch (const std::exception&) {
+        // Without a thread there is no sound.
+    }
+}
+
+void WorkerSound::play(const std::string& name) {
+    try {
+        startWorker();
+        std::unique_lock lock(mailbox->mutex);
+        auto& request = mailbox->request;
+        if (request) {
+            return;  // An earlier sound hangs.
+        }
+        request = SoundRequest{name, Clock::now() + timing.grace};
+        mailbox->changed.notify_all();
+        while (request && Clock::now() < request->deadline) {
+            const auto deadline = request->deadline;  // A copy, since the worker moves it on.
+            mailbox->changed.wait_until(lock, deadline);
+        }
+    } catch (const std::exception&) {
+        // Without a thread or memory there is no sound.
+    }
+}
+
+void WorkerSound::startWorker() {
+    if (!worker.joinable()) {
+        worker = std::thread(serveSounds, mailbox, folders, timing.closeAfter);
+    }
+}
+
+}  // namespace
+
+std::unique_ptr<Sound> makeSound(std::vector<std::filesystem::path> folders, SoundTiming timing) {
+    return std::make_unique<WorkerSound>(std::move(folders), timing);
+}
+
+}  // namespace platform

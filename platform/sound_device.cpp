@@ -1,0 +1,75 @@
+#include "platform/sound_device.h"
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <span>
+#include <thread>
+
+#include "platform/sound_sdl.h"
+
+namespace platform {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::size_t bufferFrames = 1024;
+
+SoundDevice openDevice() {
+    if (sdl() == nullptr) {
+        return 0;
+    }
+    sdl()->SetMainReady();
+    sdl()->SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    if (sdl()->InitSubSystem(SDL_INIT_AUDIO) != 0) {
+        return 0;
+    }
+    SDL_AudioSpec wanted{};
+    wanted.freq = samplesRate;
+    wanted.format = AUDIO_S16SYS;
+    wanted.channels = samplesChannels;
+    wanted.samples = Uint16{bufferFrames};
+    const SoundDevice device = sdl()->OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+    if (device == 0) {
+        sdl()->QuitSubSystem(SDL_INIT_AUDIO);
+        return 0;
+    }
+    sdl()->PauseAudioDevice(device, 0);
+    return device;
+}
+
+void enqueue(SoundDevice device, std::span<const std::int16_t> samples) {
+    sdl()->QueueAudio(device, samples.data(), static_cast<Uint32>(samples.size_bytes()));
+}
+
+}  // namespace
+
+SoundDevice openSoundDevice(SoundDevice device) {
+    if (device != 0 && sdl()->GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED) {
+        return device;
+    }
+    closeSoundDevice(device);
+    return openDevice();
+}
+
+void playThrough(SoundDevice device, const Samples& samples) {
+    // The queue runs empty two buffers before its last sample is heard.
+    static constexpr std::array<std::int16_t, 2 * bufferFrames * samplesChannels> silence{};
+    enqueue(device, samples);
+    enqueue(device, silence);
+    while (const Uint32 queuedBytes = sdl()->GetQueuedAudioSize(device)) {
+        std::this_thread::sleep_for(playingTime(queuedBytes / sizeof(std::int16_t)) + 1ms);
+    }
+}
+
+void closeSoundDevice(SoundDevice device) {
+    if (device != 0) {
+        sdl()->CloseAudioDevice(device);
+        sdl()->QuitSubSystem(SDL_INIT_AUDIO);
+    }
+    if (sdl() != nullptr) {
+        sdl()->TLSCleanup();
+    }
+}
+
+}  // namespace platform

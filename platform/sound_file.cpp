@@ -1,0 +1,39 @@
+#include "platform/sound_file.h"
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace platform {
+namespace {
+
+std::optional<std::string> readRegularFile(const std::filesystem::path& path) {
+    const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const std::unique_ptr<std::FILE, decltype(&std::fclose)> file(fdopen(descriptor, "rb"), &std::fclose);
+    struct stat status {};
+    if (!file || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        return std::nullopt;
+    }
+    std::string bytes;
+    if (const auto size = static_cast<std::size_t>(status.st_size); size <= largestSoundFile) {
+        bytes.resize(size);
+        bytes.resize(std::fread(bytes.data(), 1, size, file.get()));
+    }
+    return bytes;
+}
+
+}  // namespace
+
+std::string readSoundFile(const std::vector<std::filesystem::path>& folders, const std::string& name) {
+    for (const auto& folder : folders) {
+        if (auto bytes = readRegularFile(folder / name)) {
+            return *std::move(bytes);
+        }
+    }
+    return {};
+}
+
+}  // namespace platform

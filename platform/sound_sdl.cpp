@@ -1,0 +1,54 @@
+#include "platform/sound_sdl.h"
+
+#include <dlfcn.h>
+
+namespace platform {
+namespace {
+
+template <typename Function>
+bool resolve(void* library, const char* name, Function& function) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what dlsym is for
+    function = reinterpret_cast<Function>(dlsym(library, name));
+    return function != nullptr;
+}
+
+void ignoreAlsaError(const char*, int, const char*, int, const char*, ...) {}
+
+// ALSA would report on standard error, at every try, that there is no sound card.
+void silenceAlsa() {
+    void* library = dlopen("libasound.so.2", RTLD_NOW | RTLD_LOCAL);
+    int (*setErrorHandler)(decltype(&ignoreAlsaError)) = nullptr;
+    if (library != nullptr && resolve(library, "snd_lib_error_set_handler", setErrorHandler)) {
+        setErrorHandler(&ignoreAlsaError);
+    }
+}
+
+bool load(Sdl& sdl) {
+    silenceAlsa();
+    // Never closed again: threads that SDL leaves behind may still run in it.
+    void* library = dlopen("libSDL2-2.0.so.0", RTLD_NOW | RTLD_LOCAL);
+    return library != nullptr && resolve(library, "SDL_InitSubSystem", sdl.InitSubSystem) &&
+           resolve(library, "SDL_QuitSubSystem", sdl.QuitSubSystem) &&
+           resolve(library, "SDL_SetMainReady", sdl.SetMainReady) && resolve(library, "SDL_SetHint", sdl.SetHint) &&
+           resolve(library, "SDL_TLSCleanup", sdl.TLSCleanup) &&
+           resolve(library, "SDL_OpenAudioDevice", sdl.OpenAudioDevice) &&
+           resolve(library, "SDL_CloseAudioDevice", sdl.CloseAudioDevice) &&
+           resolve(library, "SDL_PauseAudioDevice", sdl.PauseAudioDevice) &&
+           resolve(library, "SDL_GetAudioDeviceStatus", sdl.GetAudioDeviceStatus) &&
+           resolve(library, "SDL_QueueAudio", sdl.QueueAudio) &&
+           resolve(library, "SDL_GetQueuedAudioSize", sdl.GetQueuedAudioSize) &&
+           resolve(library, "SDL_RWFromConstMem", sdl.RWFromConstMem) &&
+           resolve(library, "SDL_LoadWAV_RW", sdl.LoadWAV_RW) && resolve(library, "SDL_FreeWAV", sdl.FreeWAV) &&
+           resolve(library, "SDL_BuildAudioCVT", sdl.BuildAudioCVT) &&
+           resolve(library, "SDL_ConvertAudio", sdl.ConvertAudio);
+}
+
+}  // namespace
+
+const Sdl* sdl() {
+    static Sdl functions{};
+    static const bool loaded = load(functions);
+    return loaded ? &functions : nullptr;
+}
+
+}  // namespace platform

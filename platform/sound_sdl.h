@@ -1,0 +1,33 @@
+#pragma once
+
+// The program brings its own main() and handles its own signals.
+#define SDL_MAIN_HANDLED
+#include <SDL.h>
+
+namespace platform {
+
+/// What the program uses of SDL, by the names without their prefix. The library is loaded when it is first asked for:
+/// with all that it brings along it would make a fifth of the time until the window shows.
+struct Sdl {
+    decltype(&SDL_InitSubSystem) InitSubSystem;
+    decltype(&SDL_QuitSubSystem) QuitSubSystem;
+    decltype(&SDL_SetMainReady) SetMainReady;
+    decltype(&SDL_SetHint) SetHint;
+    decltype(&SDL_TLSCleanup) TLSCleanup;
+    decltype(&SDL_OpenAudioDevice) OpenAudioDevice;
+    decltype(&SDL_CloseAudioDevice) CloseAudioDevice;
+    decltype(&SDL_PauseAudioDevice) PauseAudioDevice;
+    decltype(&SDL_GetAudioDeviceStatus) GetAudioDeviceStatus;
+    decltype(&SDL_QueueAudio) QueueAudio;
+    decltype(&SDL_GetQueuedAudioSize) GetQueuedAudioSize;
+    decltype(&SDL_RWFromConstMem) RWFromConstMem;
+    decltype(&SDL_LoadWAV_RW) LoadWAV_RW;
+    decltype(&SDL_FreeWAV) FreeWAV;
+    decltype(&SDL_BuildAudioCVT) BuildAudioCVT;
+    decltype(&SDL_ConvertAudio) ConvertAudio;
+};
+
+/// The loaded library, or null if the system has none. Safe to call from any thread.
+const Sdl* sdl();
+
+}  // namespace platform

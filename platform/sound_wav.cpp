@@ -1,0 +1,85 @@
+#include "platform/sound_wav.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <span>
+
+#include "platform/sound_sdl.h"
+
+namespace platform {
+namespace {
+
+constexpr int longestSeconds = 10;
+
+/// SDL would allocate whatever length the data chunk claims, up to 4 GiB, and accept a file cut short.
+bool holdsWholeDataChunk(std::string_view file) {
+    constexpr std::size_t riffHeader = 12;
+    constexpr std::size_t chunkHeader = 8;
+    if (file.size() < riffHeader || file.substr(0, 4) != "RIFF" || file.substr(8, 4) != "WAVE") {
+        return false;
+    }
+    std::string_view rest = file.substr(riffHeader);
+    while (rest.size() >= chunkHeader) {
+        std::uint32_t claimed = 0;
+        std::memcpy(&claimed, rest.data() + 4, sizeof claimed);
+        const std::size_t length = SDL_SwapLE32(claimed);
+        if (rest.substr(0, 4) == "data") {
+            return length <= rest.size() - chunkHeader;
+        }
+        const std::size_t next = chunkHeader + length + length % 2;
+        rest.remove_prefix(std::min(next, rest.size()));
+    }
+    return false;
+}
+
+bool isPlayable(const SDL_AudioSpec& audio, Uint32 bytes) {
+    if (audio.channels < 1 || audio.channels > 2 || audio.freq < 8000 || audio.freq > 48000) {
+        return false;
+    }
+    const Uint32 frames = bytes / (audio.channels * SDL_AUDIO_BITSIZE(audio.format) / 8U);
+    return frames <= static_cast<Uint32>(audio.freq) * longestSeconds;
+}
+
+/// Not by SDL_AudioStream: SDL 2.26 loses up to 512 frames at the end when that resamples.
+Samples convert(const SDL_AudioSpec& audio, std::span<const Uint8> bytes) {
+    SDL_AudioCVT conversion{};
+    if (sdl()->BuildAudioCVT(&conversion, audio.format, audio.channels, audio.freq, AUDIO_S16SYS, samplesChannels,
+                             samplesRate) < 0) {
+        return {};
+    }
+    const std::size_t roomInBytes = bytes.size() * static_cast<std::size_t>(conversion.len_mult);
+    Samples samples((roomInBytes + 1) / sizeof(Samples::value_type));
+    conversion.buf = static_cast<Uint8*>(static_cast<void*>(samples.data()));
+    conversion.len = static_cast<int>(bytes.size());
+    std::copy(bytes.begin(), bytes.end(), conversion.buf);
+    if (sdl()->ConvertAudio(&conversion) != 0) {
+        return {};
+    }
+    samples.resize(static_cast<std::size_t>(conversion.len_cvt) / sizeof(Samples::value_type));
+    return samples;
+}
+
+}  // namespace
+
+Samples decodeWav(std::string_view file) {
+    if (!holdsWholeDataChunk(file) || sdl() == nullptr) {
+        return {};
+    }
+    SDL_AudioSpec audio{};
+    Uint8* bytes = nullptr;
+    Uint32 length = 0;
+    SDL_RWops* source = sdl()->RWFromConstMem(file.data(), static_cast<int>(file.size()));
+    if (sdl()->LoadWAV_RW(source, 1, &audio, &bytes, &length) == nullptr) {
+        return {};
+    }
+    const std::unique_ptr<Uint8, decltype(sdl()->FreeWAV)> owner(bytes, sdl()->FreeWAV);
+    return isPlayable(audio, length) ? convert(audio, {bytes, length}) : Samples{};
+}
+
+std::chrono::milliseconds playingTime(std::size_t samples) {
+    constexpr std::size_t samplesPerSecond = std::size_t{samplesRate} * samplesChannels;
+    return std::chrono::milliseconds(samples * 1000 / samplesPerSecond);
+}
+
+}  // namespace platform

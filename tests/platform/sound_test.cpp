@@ -1,0 +1,165 @@
+#include "platform/sound.h"
+
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <future>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/sound_file.h"
+#include "tests/platform/wav_file.h"
+
+namespace {
+
+using namespace platform;
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+/// The bytes of a stereo sound without a silent frame.
+std::string ramp(int first, int frames) {
+    std::string samples;
+    for (int i = first; i < first + frames; ++i) {
+        samples += bytesOf(i | -i << 16);
+    }
+    return samples;
+}
+
+/// What was recorded, without the silent frames.
+std::string heardIn(const fs::path& recording) {
+    std::ifstream file(recording, std::ios::binary);
+    std::string samples;
+    for (std::array<char, 4> frame{}; file.read(frame.data(), frame.size());) {
+        samples.append(frame.data(), frame == std::array<char, 4>{} ? 0 : frame.size());
+    }
+    return samples;
+}
+
+struct SoundTest : testing::Test {
+    SoundTest() {
+        fs::create_directories(folder);
+        std::ofstream(folder / "other.wav") << WavFile{otherSound}.bytes();
+        std::ofstream(folder / "long.wav") << WavFile{ramp(1, 26460)}.bytes();
+    }
+    ~SoundTest() override { fs::remove_all(folder); }
+
+    /// The device from now on. SDL's disk driver records to a file, here 20 times faster than it is played.
+    static void useDevice(const char* driver, const fs::path& recording = {}) {
+        setenv("SDL_AUDIODRIVER", driver, 1);
+        setenv("SDL_DISKAUDIOFILE", recording.c_str(), 1);
+        setenv("SDL_DISKAUDIODELAY", "1", 1);
+    }
+
+    /// The device is a FIFO from now on: opening it hangs until somebody listens, and writing until he has read.
+    void useFifo(SoundTiming timing) {
+        EXPECT_EQ(mkfifo(speaker.c_str(), 0600), 0);
+        useDevice("disk", speaker);
+        sound = makeSound({folder}, timing);
+    }
+
+    const fs::path folder = fs::path(testing::TempDir()) / ("sound-" + std::to_string(getpid()));
+    const fs::path speaker = folder / "speaker";
+    const std::string otherSound = ramp(10000, 2205);
+    /// Patient, lest a busy machine looks like a device that hangs.
+    std::unique_ptr<Sound> sound = makeSound({folder}, {.grace = 60s, .closeAfter = 1h});
+};
+
+TEST_F(SoundTest, PlaysWholeSoundsInOrderAndReadsTheirFilesEachTime) {
+    useDevice("disk", speaker);
+    sound->warmUp();
+    sound->play("other.wav");
+    std::ofstream(folder / "other.wav") << WavFile{ramp(5, 7)}.bytes();
+    sound->play("other.wav");
+    sound.reset();
+    EXPECT_EQ(heardIn(speaker), otherSound + ramp(5, 7));
+}
+
+TEST_F(SoundTest, PlaysForTheLengthOfTheSoundAndLeavesSignalsAlone) {
+    useDevice("dummy");
+    const auto begin = Clock::now();
+    sound->play("long.wav");
+    EXPECT_GE(Clock::now() - begin, 600ms + 46ms) << "with the two buffers that follow the empty queue";
+
+    struct sigaction action {};
+    ASSERT_EQ(sigaction(SIGTERM, nullptr, &action), 0);
+    EXPECT_EQ(action.sa_handler, SIG_DFL) << "with the device open, signals must still end the program";
+}
+
+TEST_F(SoundTest, PlaysNothingForAFileThatIsMissingOrUnfit) {
+    useDevice("disk", speaker);
+    std::ofstream(folder / "empty.wav") << WavFile{""}.bytes();
+    for (const char* name : {"missing.wav", "empty.wav", "", "../.."}) {
+        sound->play(name);
+    }
+    sound.reset();
+    EXPECT_FALSE(fs::exists(speaker)) << "the device was opened";
+}
+
+TEST_F(SoundTest, ReadsTheFirstRegularFileOfTheName) {
+    const std::vector<fs::path> folders{folder / "absent", folder / "first", folder};
+    fs::create_directories(folder / "first" / "other.wav");
+    ASSERT_EQ(mkfifo((folder / "first" / "long.wav").c_str(), 0600), 0);
+    EXPECT_EQ(readSoundFile(folders, "other.wav"), WavFile{otherSound}.bytes());
+    EXPECT_EQ(readSoundFile(folders, "long.wav"), WavFile{ramp(1, 26460)}.bytes());
+    for (const std::size_t size : {std::size_t{1}, largestSoundFile, largestSoundFile + 1}) {
+        std::ofstream(folder / "first" / "large.wav").close();
+        fs::resize_file(folder / "first" / "large.wav", size);
+        EXPECT_EQ(readSoundFile(folders, "large.wav").size(), size % (largestSoundFile + 1));
+    }
+}
+
+TEST_F(SoundTest, TriesAgainAtTheNextSoundIfTheDeviceIsBusyOrUnplugged) {
+    for (const char* recording : {"/missing/speaker", "/dev/full"}) {
+        useDevice("disk", recording);
+        sound->play("long.wav");
+    }
+    useDevice("disk", speaker);
+    sound->play("other.wav");
+    sound.reset();
+    EXPECT_EQ(heardIn(speaker), otherSound);
+}
+
+TEST_F(SoundTest, ClosesTheDeviceWhenNoSoundFollows) {
+    useFifo({.grace = 60s, .closeAfter = 1ms});
+    auto heard = std::async(std::launch::async, heardIn, speaker);
+    sound->play("other.wav");
+    EXPECT_EQ(heard.get(), otherSound) << "the end of the recording comes with the closing";
+}
+
+TEST_F(SoundTest, GivesUpADeviceThatHangsUntilItAnswers) {
+    useFifo({.grace = 3s, .closeAfter = 1h});
+    const auto begin = Clock::now();
+    sound->play("long.wav");
+    EXPECT_GE(Clock::now() - begin, 3s + 600ms);
+
+    const fs::path copy = folder / "copy";
+    auto listener = std::async(std::launch::async, [&] { std::ofstream(copy) << std::ifstream(speaker).rdbuf(); });
+    while (heardIn(copy).empty() && Clock::now() - begin < 60s) {
+        sound->play("other.wav");
+    }
+    sound.reset();
+    listener.wait();
+    EXPECT_EQ(heardIn(copy).substr(0, otherSound.size()), otherSound) << "a sound given up must not be heard later";
+}
+
+TEST_F(SoundTest, LeavesADeviceBehindThatHangs) {
+    useFifo({.grace = 5s});
+    const int listener = open(speaker.c_str(), O_RDONLY | O_NONBLOCK);
+    ASSERT_GT(fcntl(listener, F_SETPIPE_SZ, 4096), 0) << "so that a few buffers fill it";
+    sound->play("other.wav");
+    const auto begin = Clock::now();
+    for (int i = 0; i < 20; ++i) {
+        sound->play("other.wav");
+    }
+    sound.reset();
+    EXPECT_LT(Clock::now() - begin, 5s) << "neither a further sound nor the end waits";
+    EXPECT_EQ(heardIn(speaker), otherSound) << "once somebody listens";
+    close(listener);
+}
+
+}  // namespace

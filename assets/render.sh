@@ -1,0 +1,71 @@
+#!/bin/bash
+# Renders every picture of the game from the SVG sources.
+# Needs librsvg2-bin, imagemagick and icoutils; the results are the same byte for byte every time.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+field='rgb(128,160,192)' # the steel blue on which the cut-out pictures stand
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+# name, then the colours: lit side, body, shaded rim. colour_table.py guards them: they
+# differ in lightness as well as in hue, for players who confuse hues.
+balls='
+ir  #f56c2f #db000f #8b0002
+ib  #2d88e3 #063cde #190089
+iv  #7ae371 #3ac059 #006630
+ij  #fff781 #ffe000 #cd8300
+ip  #ff92f6 #ef4ee7 #8c049e
+ig  #86909f #4c5766 #1f252e
+'
+
+# render SOURCE WIDTH HEIGHT [CSS] writes a smooth PNG, averaged down from eight times the size.
+render() {
+    rsvg-convert --width $(($2 * 8)) --height $(($3 * 8)) --stylesheet <(echo "${4-}") "sources/$1.svg" |
+        convert png:- -scale 12.5% -depth 8 -strip png:-
+}
+
+# A pixel of the cut-out pictures is opaque or clear, nothing between: edge pixels are blended with
+# the field, and those hardly covered are left out.
+cut_out() {
+    convert png:- \( +clone -alpha extract -threshold 35% \) \
+        \( -clone 0 -background "$field" -flatten -alpha off \) -delete 0 +swap \
+        -compose CopyOpacity -composite +dither -colors "$1" -depth 8 png:-
+}
+
+while read -r name light body shade; do
+    [[ -n $name ]] || continue
+    render ball 20 20 ".light{stop-color:$light} .body{stop-color:$body} .shade{stop-color:$shade}" |
+        cut_out 256 | convert png:- +dither "pictures/$name.gif"
+done <<<"$balls"
+
+render button 76 20 | cut_out 256 >"$work/button.png"
+convert "$work/button.png" +dither pictures/button-normal.gif
+convert "$work/button.png" -rotate 180 +dither pictures/button-hover.gif
+
+render frame 48 48 >"$work/frame.png"
+while read -r name x y; do
+    convert "$work/frame.png" -crop "16x16+$x+$y" +repage -alpha off -type TrueColor "BMP3:pictures/$name.bmp"
+done <<'PIECES'
+HG 0 0
+H 16 0
+HD 32 0
+G 0 16
+D 32 16
+BG 0 32
+B 16 32
+BD 32 32
+PIECES
+
+
+# The help icon stands on the field; the window icon stands on any ground, so its edges are not
+# blended, and its palette is chosen by hand: red, yellow and blue from dark to light, and white.
+render help 32 32 | cut_out 16 >"$work/help.png"
+convert -size 1x1 xc:'#8b0002' xc:'#b60008' xc:'#db000f' xc:'#ee4a2c' xc:'#ffb3a6' \
+    xc:'#cd8300' xc:'#f0b400' xc:'#ffe000' xc:'#fff3a0' \
+    xc:'#190089' xc:'#0a24b6' xc:'#063cde' xc:'#2b78e4' xc:'#a9c9f7' xc:'#ffffff' xc:none +append "$work/palette.png"
+render zampotine 32 32 |
+    convert png:- -channel A -threshold 50% +channel +dither -remap "$work/palette.png" "$work/zampotine.png"
+for name in help zampotine; do
+    icotool --create --output "pictures/$name.ico" "$work/$name.png"
+done

@@ -1,0 +1,32 @@
+// The best scores: their rule, their reset, and the labels that show them.
+
+#include <QLabel>
+
+#include "mainwindow/balls.h"
+
+using namespace Qt::StringLiterals;
+
+namespace mainwindow {
+
+void balls::sc_Change() {
+    bestScores.sc_Change(game.Diff, sc->text());
+    showBestScore();
+}
+
+void balls::resetBestScore() {
+    bestScores.reset(game.Diff);
+    showBestScore();
+}
+
+void balls::showTable() {
+    for (int k = 0; QLabel * label : hsc) {
+        label->setText(bestScores.hsc(k++));
+    }
+}
+
+void balls::showBestScore() {
+    showTable();
+    Label4->setText(bestScores.hsc(game.Diff));
+}
+
+}  // namespace mainwindow

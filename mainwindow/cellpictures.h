@@ -1,0 +1,35 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "platform/picture.h"
+#include "rules/board.h"
+
+namespace mainwindow {
+
+/// The pictures that show the cells of a board.
+class CellPictures {
+  public:
+    CellPictures();
+
+    /// Removes every picture but the first.
+    void clear();
+
+    /// Creates and places one picture for each cell of a board.
+    void create(const rules::Board& board);
+
+    /// Lets cell i show what it holds.
+    void show(const rules::Board& board, rules::CellIndex i);
+    /// Lets every cell show what it holds.
+    void showAll(const rules::Board& board);
+
+    /// Draws the cells that an area of the window touches, in pixels.
+    void draw(QPainter& painter, const rules::Board& board, const QRect& area) const;
+
+  private:
+    std::vector<platform::Picture> c;
+    std::array<QPixmap, 1 + rules::codes.size()> images;  // of the empty cell, then of the colours in their order
+};
+
+}  // namespace mainwindow

@@ -1,0 +1,69 @@
+// The command buttons, and the order between them and the moves.
+
+#include <utility>
+
+#include "mainwindow/balls.h"
+
+namespace mainwindow {
+
+void balls::ImBTN_Click(int Index) {
+    if (Index < newGame || Index > reset) {
+        return;
+    }
+    const auto command = static_cast<Command>(Index);
+    if (moving) {
+        keep(command);
+    } else {
+        run(command);
+    }
+}
+
+void balls::LabBtn_Click(int Index) {
+    ImBTN_Click(Index);
+}
+
+// One move or new game at a time: a press inside its yields is dropped, a command waits for its end.
+void balls::exclusively(const std::function<void()>& sequence) {
+    if (moving) {
+        return;
+    }
+    moving = true;
+    sequence();
+    moving = false;
+    runKept();
+}
+
+void balls::runKept() {
+    // A kept new game comes through here as well; the commands behind it wait for its end.
+    if (std::exchange(running, true)) {
+        return;
+    }
+    while (!kept.empty()) {
+        const Command command = kept.front();
+        kept.pop_front();
+        run(command);
+    }
+    running = false;
+}
+
+void balls::keep(Command command) {
+    closing = closing || command == quit;
+    kept.push_back(command);
+}
+
+void balls::run(Command command) {
+    switch (command) {
+        case newGame:
+            startGame();
+            break;
+        case quit:
+            kept.clear();
+            close();
+            break;
+        case reset:
+            resetBestScore();
+            break;
+    }
+}
+
+}  // namespace mainwindow

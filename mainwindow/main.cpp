@@ -1,0 +1,48 @@
+#include <filesystem>
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+
+#include "assets/pictures.h"
+#include "mainwindow/balls.h"
+#include "platform/look.h"
+#include "platform/quit_signals.h"
+#include "platform/screen.h"
+#include "platform/sound.h"
+#include "platform/yield.h"
+#include "rules/random.h"
+#include "settings/store.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Where a sound is looked for, the first place first.
+std::vector<std::filesystem::path> soundFolders() {
+    const std::filesystem::path program = QCoreApplication::applicationDirPath().toStdString();
+    return {".", program, program / ".." / "share" / "zampotine" / "sounds"};
+}
+
+}  // namespace
+
+int main(int, char* argv[]) {
+    // There is no command line: the toolkit would take options of its own from it.
+    int argc = 1;
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(u"zampotine"_s);
+    QApplication::setApplicationDisplayName(u"Zampotine"_s);
+    QApplication::setApplicationVersion(QStringLiteral(ZAMPOTINE_VERSION));
+    QGuiApplication::setDesktopFileName(u"zampotine"_s);
+    QApplication::setWindowIcon(QIcon(assets::picture(u"zampotine.ico"_s)));
+    // Only the main window ends the program, also while it is hidden behind another one.
+    QApplication::setQuitOnLastWindowClosed(false);
+    platform::applyLook();
+
+    settings::Store store(settings::defaultPath(QCoreApplication::applicationFilePath()));
+    const auto sound = platform::makeSound(soundFolders());
+    mainwindow::balls window({store, *sound, rules::seedFromClock, platform::screenOf, platform::pause});
+    platform::onQuitSignal(window, [&window] { window.close(); });
+    window.show();
+    return QApplication::exec();
+}

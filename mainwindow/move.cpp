@@ -1,0 +1,81 @@
+// A press on the board, and what its move shows and plays.
+
+#include "rules/move.h"
+
+#include <utility>
+
+#include <QLabel>
+
+#include "mainwindow/balls.h"
+#include "mainwindow/boardgeometry.h"
+#include "platform/fitted_text.h"
+#include "platform/yield.h"
+
+namespace mainwindow {
+namespace {
+
+QString toText(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+}  // namespace
+
+void balls::c_MouseDown(int i) {
+    exclusively([this, i] {
+        pace = {};
+        rules::playMove(game, i, *this);
+    });
+}
+
+void balls::cellCleared(rules::CellIndex i) {
+    c.show(game.board, i);
+    // Of very many cells one large area is painted sooner than so many small ones.
+    constexpr int manyAreas = 100;
+    cleared += cellArea(game.board, i);
+    if (cleared.rectCount() > manyAreas) {
+        cleared = cleared.boundingRect();
+    }
+}
+
+void balls::yield() {
+    const auto wait = closing ? std::chrono::microseconds{} : pace.nextBall();
+    if (wait.count() == 0) {
+        platform::yield();
+    } else {
+        paintCleared();
+        surroundings.pause(wait);
+    }
+}
+
+void balls::paintCleared() {
+    update(std::exchange(cleared, {}));
+}
+
+void balls::scoreChanged() {
+    sc->setText(QString::number(game.score));
+    sc_Change();
+}
+
+void balls::lastMoveChanged(std::string_view text) {
+    platform::setFittedText(*l1[0], toText(text));
+}
+
+void balls::remainingChanged(std::string_view text) {
+    platform::setFittedText(*l1[3], toText(text));
+}
+
+void balls::playWave(std::string_view file) {
+    // The holes show while the sound plays, and what the player did meanwhile is over before a panel can
+    // open.
+    paintCleared();
+    platform::yield();
+    PlayWave(file);
+    platform::yield();
+}
+
+void balls::boardSettled() {
+    c.showAll(game.board);
+    update();
+}
+
+}  // namespace mainwindow

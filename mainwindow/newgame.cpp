@@ -1,0 +1,81 @@
+// The new-game sequence: the board is sized, dealt and laid out.
+
+#include <algorithm>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "mainwindow/balls.h"
+#include "mainwindow/boardgeometry.h"
+#include "mainwindow/sizing.h"
+#include "platform/yield.h"
+#include "rules/deal.h"
+#include "rules/outcome.h"
+
+namespace mainwindow {
+namespace {
+
+int requested(const QLineEdit& box) {
+    return leadingNumber(box.text().toStdU16String());
+}
+
+}  // namespace
+
+void balls::startGame() {
+    exclusively([this] {
+        SizeBoard();
+        NewGame();
+        LayoutBoard();
+        l1[0]->clear();
+    });
+}
+
+void balls::SizeBoard() {
+    ClearBoard();
+    const platform::Box screen = surroundings.screen(*this);
+    const BoardSize size = fitBoard({.NbCol = requested(*Text1[1]), .NbLig = requested(*Text1[0])},
+                                    {screen.Width, screen.Height, platform::toTwips(Frame2->width())});
+    Text1[1]->setText(QString::number(size.NbCol));
+    Text1[0]->setText(QString::number(size.NbLig));
+    rules::resizeBoard(game, size.NbCol, size.NbLig);
+    c.create(game.board);
+    bestScores.load();
+    showTable();
+}
+
+void balls::ClearBoard() {
+    c.clear();
+}
+
+int balls::selectedLevel() const {
+    const auto* const selected = std::ranges::find_if(Option1, &QRadioButton::isChecked);
+    return static_cast<int>(selected - Option1.begin());
+}
+
+void balls::NewGame() {
+    hideEndPanel();
+    rules::deal(game, selectedLevel(), rules::Random(surroundings.seed()));
+    c.showAll(game.board);
+    bestScores.load(game.Diff);
+    scoreChanged();
+    remainingChanged(rules::remainingText(game.Total, game.NBBoules));
+}
+
+void balls::LayoutBoard() {
+    using platform::toPixels;
+    using platform::toTwips;
+
+    frame.clear();
+    Frame2->move(toPixels(game.board.NbCol * Pas + 600), toPixels(boardOrigin));
+    setFixedSize(toPixels(toTwips(Frame2->x() + Frame2->width()) + 300), toPixels(game.board.NbLig * Pas + 1000));
+    const int W = toTwips(width());
+    const int Ht = toTwips(height());
+    const platform::Box screen = surroundings.screen(*this);
+    move(toPixels(screen.Left + (screen.Width - W) / 2), toPixels(screen.Top + (screen.Height - Ht) / 2 - 1000));
+    platform::yield();
+    frame.rebuild(toTwips(width()), toTwips(height()));
+    update();
+}
+
+}  // namespace mainwindow

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <vector>
+
+#include <QPoint>
+
+#include "platform/picture.h"
+
+namespace mainwindow {
+
+/// The border of small pictures along the four edges of the main window, with a picture at each corner.
+class PictureFrame {
+  public:
+    PictureFrame();
+
+    /// Removes every piece but the first of each edge.
+    void clear();
+
+    /// Rebuilds the border for a window of this size, in twips.
+    void rebuild(int W, int Ht);
+
+    /// Draws the border; the corners lie in front of the edges.
+    void draw(QPainter& painter) const;
+
+    /// Whether a point of the window, in pixels, lies on the border.
+    bool contains(QPoint point) const;
+
+  private:
+    template <typename Visit>
+    void forEachPiece(Visit visit) const;
+
+    std::vector<platform::Picture> H, B, G, D;  // top, bottom, left and right edge pieces
+    platform::Picture HG, HD, BG, BD;           // top left, top right, bottom left and bottom right corners
+};
+
+}  // namespace mainwindow

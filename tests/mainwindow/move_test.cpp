@@ -1,0 +1,140 @@
+#include "rules/move.h"
+
+#include <QCheckBox>
+
+#include "tests/mainwindow/world.h"
+
+namespace mainwindow {
+namespace {
+
+constexpr auto columns = "rb rb rb";  // a column of each colour
+
+TEST(Move, PressShowsReportsAndPlaysTheMoveWithAnyButton) {
+    for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+        World world;
+        world.open(columns);
+        world.press(4, button);
+        EXPECT_EQ(world.game().board, picture("r. r. r."));
+        EXPECT_EQ(world.text("sc"), "8");
+        EXPECT_EQ(world.text("Label4"), "8");
+        EXPECT_EQ(world.text("l1", 0), "3 balles crevées (8 points.)");
+        EXPECT_EQ(world.text("l1", 3), "Il reste 3 balles sur 6.");
+        EXPECT_EQ(world.sound.played, std::vector<std::string>{"son5.WAV"});
+        EXPECT_EQ(world.stored("0"), "8");
+    }
+}
+
+TEST(Move, PressThatRemovesNothingChangesNothing) {
+    World world;
+    world.open("rb br");
+    const QImage before = world.window->grab().toImage();
+    for (const QPoint point : {QPoint(40, 40), QPoint(5, 5), QPoint(20, 20), QPoint(200, 60)}) {
+        QTest::mousePress(world.window.get(), Qt::LeftButton, {}, point);
+    }
+    EXPECT_EQ(world.window->grab().toImage(), before);
+    EXPECT_TRUE(world.sound.played.empty());
+    EXPECT_EQ(world.pauses, 0);
+}
+
+TEST(Move, GameEndsWithThePanelThatAClickOrANewGameHides) {
+    struct Row {
+        const char *what, *board;
+        std::vector<int> presses;
+        const char* score;
+        bool byClick;
+    };
+    const std::vector<Row> table{
+        {"one ball left", "r r b", {0}, "4", true},
+        {"a cleared board counts double", "rb rb", {0, 0}, "16", false},
+    };
+    for (const Row& row : table) {
+        World world;
+        world.open(row.board);
+        auto* panel = world.control<QWidget>("Frame1");
+        for (const int i : row.presses) {
+            EXPECT_FALSE(panel->isVisible());
+            world.press(i);
+        }
+        EXPECT_TRUE(panel->isVisible()) << row.what;
+        EXPECT_EQ(world.text("sc"), row.score) << row.what;
+        EXPECT_EQ(world.stored("0"), row.score) << row.what;
+        EXPECT_TRUE(world.control("sc")->font().bold() && world.control("Label3")->font().bold());
+        for (const char* child : {"Label1", "Label7", "ir"}) {
+            QTest::mouseClick(world.control(child), Qt::LeftButton);
+            EXPECT_TRUE(panel->isVisible()) << child << " does not close the panel";
+        }
+        row.byClick ? QTest::mouseClick(panel, Qt::LeftButton, {}, {2, panel->height() - 2}) : world.command(0);
+        EXPECT_FALSE(panel->isVisible()) << row.what;
+        EXPECT_FALSE(world.control("sc")->font().bold() || world.control("Label3")->font().bold());
+    }
+}
+
+TEST(Move, PressesDuringAMoveAreDropped) {
+    World world;
+    world.open(columns);
+    world.inPause = [&] { world.press(3); };
+    world.sound.meanwhile = [&] { world.press(3); };
+    world.press(0);
+    EXPECT_EQ(world.game().board, picture("b. b. b."));
+    EXPECT_EQ(world.game().score, 8);
+    EXPECT_EQ(world.sound.played.size(), 1);
+}
+
+TEST(Move, CommandsDuringAMoveRunAfterItInTheirOrderAndOptionsAtOnce) {
+    World world;
+    world.open(columns);
+    world.inPause = [&] {
+        if (world.pauses > 1) {
+            return;
+        }
+        world.command(2);  // the reset comes after the move's score, and before the new game
+        world.command(0);
+        world.select(2);
+        world.control<QCheckBox>("Check1")->click();
+        EXPECT_EQ(world.stored("Niveau"), "2");
+        EXPECT_EQ(world.game().score, 0);
+    };
+    world.press(0);
+    EXPECT_TRUE(world.sound.played.empty()) << "the switch was thrown before the sound";
+    EXPECT_EQ(world.stored("0"), "0");
+    EXPECT_EQ(world.game().Total, 6);
+    EXPECT_EQ(world.game().NbCoul, 4);
+    EXPECT_EQ(world.text("l1", 0), "");
+}
+
+TEST(Move, ClosingDuringAMoveEndsItAtOnceAndLosesNothing) {
+    for (const bool byCommand : {true, false}) {
+        World world;
+        world.open(columns);
+        world.inPause = [&] {
+            byCommand ? world.command(1) : static_cast<void>(world.window->close());
+            EXPECT_TRUE(world.window->isVisible()) << "nothing dies under a running move";
+        };
+        world.press(0);
+        EXPECT_FALSE(world.window->isVisible());
+        EXPECT_EQ(world.pauses, 1) << "no pace once the player waits for the end";
+        EXPECT_TRUE(world.sound.played.empty());
+        EXPECT_EQ(world.stored("0"), "8");
+        EXPECT_EQ(world.stored("Son"), "1");
+    }
+}
+
+TEST(Move, BestScoreFollowsTheScoreOnlyAboveIt) {
+    struct Row {
+        const char *stored, *afterDeal, *afterMove;
+    };
+    const std::vector<Row> table{{"120", "120", "120"}, {"7", "7", "8"},  {"8", "8", "8"},      {"abc", "0", "8"},
+                                 {"", "0", "8"},        {"-5", "0", "8"}, {"1e9", "1e9", "1e9"}};
+    for (const Row& row : table) {
+        World world;
+        world.set("0", row.stored);
+        world.open(columns);
+        EXPECT_EQ(world.text("Label4"), row.afterDeal) << row.stored;
+        world.press(0);
+        EXPECT_EQ(world.text("Label4"), row.afterMove) << row.stored;
+        EXPECT_EQ(world.stored("0"), row.afterMove) << row.stored;
+    }
+}
+
+}  // namespace
+}  // namespace mainwindow

@@ -1,0 +1,68 @@
+#include <QCheckBox>
+
+#include "tests/mainwindow/world.h"
+
+namespace mainwindow {
+namespace {
+
+TEST(Startup, EmptyStoreGivesTheDefaults) {
+    World world;
+    world.open();
+    EXPECT_TRUE(world.control<QRadioButton>("Option1", 0)->isChecked());
+    EXPECT_EQ(world.box(1), "25");
+    EXPECT_EQ(world.box(0), "25");
+    EXPECT_TRUE(world.control<QCheckBox>("Check1")->isChecked());
+    EXPECT_EQ(world.stored("Niveau"), "0");
+    EXPECT_EQ(world.stored("Col"), "absent") << "sizes are stored at closing";
+    EXPECT_EQ(world.window->geometry(), QRect(431, 250, 738, 567));
+}
+
+TEST(Startup, StoredValuesOfAnyKindGiveAGame) {
+    struct Row {
+        const char *Niveau, *Son;
+        int level;
+        bool sound;
+    };
+    const std::vector<Row> table{
+        {"4", "0", 4, false},     {"5", "2", 0, true},     {"-1", "-1", 0, true},       {"abc", "abc", 0, true},
+        {"1.6", "0.4", 2, false}, {"nan", "nan", 0, true}, {"1e300", "1e300", 0, true}, {"4.4", "", 4, true},
+    };
+    for (const Row& row : table) {
+        World world;
+        world.set("Niveau", row.Niveau);
+        world.set("Son", row.Son);
+        world.open();
+        EXPECT_TRUE(world.control<QRadioButton>("Option1", row.level)->isChecked()) << row.Niveau;
+        EXPECT_EQ(world.game().NbCoul, row.level + 2) << row.Niveau;
+        EXPECT_EQ(world.control<QCheckBox>("Check1")->isChecked(), row.sound) << row.Son;
+    }
+}
+
+TEST(Startup, BoxesAreStoredAsTypedAndReadAgain) {
+    World world;
+    world.open();
+    world.type("40 é\\n", "16");
+    world.control<QCheckBox>("Check1")->click();
+    EXPECT_TRUE(world.window->close());
+    EXPECT_EQ(world.stored("Col"), "40 é\\n");
+    EXPECT_EQ(world.stored("Lig"), "16");
+    EXPECT_EQ(world.stored("Son"), "0");
+    world.open();
+    EXPECT_EQ(world.game().board.NbCol, 40);
+    EXPECT_EQ(world.game().board.NbLig, 16);
+}
+
+TEST(Startup, SoundWarmsUpAfterTheWindowShowsAndOnlyIfItIsSwitchedOn) {
+    World on;
+    World off;
+    off.set("Son", "0");
+    on.open();
+    off.open();
+    EXPECT_EQ(on.sound.warmUps, 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return on.sound.warmUps > 0; }));
+    QTest::qWait(50);
+    EXPECT_EQ(off.sound.warmUps, 0);
+}
+
+}  // namespace
+}  // namespace mainwindow

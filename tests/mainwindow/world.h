@@ -1,0 +1,107 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "mainwindow/balls.h"
+#include "mainwindow/controls.h"
+#include "rules/deal.h"
+#include "tests/rules/pictures.h"
+
+namespace mainwindow {
+
+using namespace Qt::StringLiterals;
+using rules::picture;
+
+struct RecordedSound : platform::Sound {
+    int warmUps = 0;
+    std::vector<std::string> played;
+    std::function<void()> meanwhile = [] {};
+
+    void warmUp() override { ++warmUps; }
+    void play(const std::string& name) override {
+        played.push_back(name);
+        meanwhile();
+    }
+};
+
+/// One main window in a world of its own: settings in memory, chosen seed and screen, a clock that never makes wait.
+struct World {
+    settings::Store store{QString()};
+    RecordedSound sound;
+    std::uint64_t seed = 1;
+    platform::Box screen{0, 0, 24'000, 18'000};
+    int pauses = 0;
+    std::function<void()> inPause = [] {};
+    std::unique_ptr<balls> window;
+
+    /// Opens the window, on a board of two colours if one is given: on a screen that holds just this board, with a
+    /// seed that deals it.
+    void open(const char* board = nullptr) {
+        if (board != nullptr) {
+            arrange(picture(board));
+        }
+        window = std::make_unique<balls>(Surroundings{
+            store,
+            sound,
+            [this] { return seed; },
+            [this](const QWidget&) { return screen; },
+            [this](std::chrono::microseconds) {
+                ++pauses;
+                inPause();
+            },
+        });
+        window->show();
+    }
+
+    const rules::Game& game() const { return window->currentGame(); }
+    std::string stored(const char* key) const {
+        return store.read(u"init"_s, QString::fromLatin1(key), u"absent"_s).toStdString();
+    }
+    void set(const char* key, const char* text) {
+        store.write(u"init"_s, QString::fromLatin1(key), QString::fromUtf8(text));
+    }
+
+    template <typename Widget = QLabel>
+    Widget* control(const char* name, int index = -1) const {
+        auto* found = window->findChild<Widget*>(controlName(name, index));
+        EXPECT_NE(found, nullptr) << name << '(' << index << ')';
+        return found;
+    }
+    std::string text(const char* name, int index = -1) const { return control(name, index)->text().toStdString(); }
+    std::string box(int index) const { return control<QLineEdit>("Text1", index)->text().toStdString(); }
+    void type(const char* Col, const char* Lig) const {
+        control<QLineEdit>("Text1", 1)->setText(QString::fromUtf8(Col));
+        control<QLineEdit>("Text1", 0)->setText(QString::fromUtf8(Lig));
+    }
+    void command(int index) const { QTest::mouseClick(control("LabBtn", index), Qt::LeftButton); }
+    void select(int level) const { control<QRadioButton>("Option1", level)->click(); }
+
+    /// Presses on cell i where the player sees it.
+    void press(int i, Qt::MouseButton button = Qt::LeftButton) const {
+        const auto [col, row] = game().board.positionOf(static_cast<rules::CellIndex>(i));
+        QTest::mousePress(window.get(), button, {}, {33 + 20 * col + 10, 33 + 20 * row + 10});
+    }
+
+  private:
+    void arrange(const rules::Board& board) {
+        screen.Width = board.NbCol * 300 + 600 + 2670;
+        screen.Height = board.NbLig * 300 + 600;
+        rules::Game dealt;
+        for (seed = 0; dealt.board != board; ++seed) {
+            ASSERT_LT(seed, 100'000) << "no deal looks like\n" << rules::print(board);
+            rules::resizeBoard(dealt, board.NbCol, board.NbLig);
+            rules::deal(dealt, 0, rules::Random(seed));
+        }
+        --seed;
+    }
+};
+
+}  // namespace mainwindow

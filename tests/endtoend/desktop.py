@@ -1,0 +1,57 @@
+"""A screen of its own with a window manager, a loudspeaker and a player's home folder that is thrown away."""
+import os
+import pathlib
+import subprocess
+import tempfile
+import time
+
+from PIL import ImageGrab
+
+PATIENCE = 20  # seconds until something that must come counts as missing
+
+
+def wait_for(what, condition):
+    deadline = time.monotonic() + PATIENCE
+    while not (value := condition()):
+        if time.monotonic() > deadline:
+            raise AssertionError(f"{what}: nothing of it within {PATIENCE} s")
+        time.sleep(0.01)
+    return value
+
+
+class Desktop:
+    def __init__(self, stack, folder, width, height):
+        """Whatever is started ends when the stack is unwound, or with this process."""
+        home = pathlib.Path(stack.enter_context(tempfile.TemporaryDirectory(dir=folder)))
+        self.home = home
+        self.loudspeaker = home / "loudspeaker"  # a file that grows at the speed of the sound
+        self.environment = {
+            **os.environ,
+            "HOME": str(home),
+            "XDG_CONFIG_HOME": str(home),
+            "XDG_RUNTIME_DIR": str(home),
+            "QT_QPA_PLATFORM": "xcb",
+            "SDL_AUDIODRIVER": "disk",
+            "SDL_DISKAUDIOFILE": str(self.loudspeaker),
+        }
+        self._stack = stack
+        xvfb = self.start("Xvfb", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24", output=subprocess.PIPE)
+        self.environment["DISPLAY"] = ":" + xvfb.stdout.readline().decode().strip()
+        # Before the window manager is ready, windows may get lost between it and the display.
+        self.start("openbox", "--startup", "touch ready")
+        wait_for("the window manager", (home / "ready").exists)
+
+    def start(self, *command, output=None):
+        """A process that is ended with the stack, and by the kernel should this process be killed."""
+        process = self._stack.enter_context(subprocess.Popen(
+            ["setpriv", "--pdeathsig", "TERM", *command], env=self.environment, cwd=self.home, stdout=output))
+        self._stack.callback(process.terminate if command[0] == "Xvfb" else process.kill)
+        return process
+
+    def xdotool(self, *words):
+        """What the command prints; nothing if it fails."""
+        command = ["xdotool", *map(str, words)]
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=PATIENCE).stdout
+
+    def screenshot(self, area=None):
+        return ImageGrab.grab(area, xdisplay=self.environment["DISPLAY"])

@@ -1,0 +1,136 @@
+"""A player at the running program: sees its window as pixels and works it with pointer and keys."""
+import pathlib
+import re
+import signal
+
+import numpy as np
+from PIL import Image
+
+import model
+from desktop import wait_for
+
+PICTURES = pathlib.Path(__file__).resolve().parents[2] / "assets" / "pictures"
+COLOURS = "rbvjpg"  # in the order in which the levels add them
+FIELD = (128, 160, 192)
+CELL = 20  # pixels
+BOARD = 33  # pixels from the window's left and top to the first cell, and from its top to the side panel
+# Places in the side panel.
+OPTIONS = tuple((12, 8 + 14 * level) for level in range(5))
+COLUMNS_BOX, ROWS_BOX, SOUND_SWITCH = (118, 27), (157, 27), (12, 80)
+NEW_GAME, QUIT_PICTURE, QUIT_CAPTION = (37, 234), (109, 234), (141, 233)
+
+
+def pixels_of(content):
+    cell = Image.new("RGBA", (CELL, CELL), FIELD)
+    if content != ".":
+        with Image.open(PICTURES / f"i{content}.gif") as ball:
+            cell.alpha_composite(ball.convert("RGBA"))
+    return np.array(cell.convert("RGB"))
+
+
+CELL_PIXELS = {content: pixels_of(content) for content in "." + COLOURS}
+
+
+def centre(cell):
+    return tuple(BOARD + CELL * place + CELL // 2 for place in cell)
+
+
+class Player:
+    def __init__(self, desktop, program, settings=None):
+        """Starts the program, over a settings file with these lines if any are given."""
+        self.desktop = desktop
+        self.file = desktop.home / (program.stem + ".ini")
+        if settings is not None:
+            self.file.write_text("[init]\n" + settings)
+        self.process = desktop.start(program)
+        self.window = wait_for("the window", lambda: desktop.xdotool("search", "--onlyvisible", "^Zampotine$").strip())
+        wait_for("a dealt board", lambda: set("".join(self.board())) <= set(COLOURS))
+        wait_for("the keyboard's focus", lambda: "Zampotine" in desktop.xdotool("getwindowfocus", "getwindowname"))
+
+    def stored(self):
+        return dict(re.findall("(.+)=(.*)", self.file.read_text()))
+
+    def geometry(self):
+        said = self.desktop.xdotool("getwindowgeometry", "--shell", self.window)
+        return tuple(map(int, re.findall(r"(?:X|Y|WIDTH|HEIGHT)=(-?\d+)", said)))
+
+    def look(self, start, end):
+        """The pixels by row and column between two places in the window."""
+        left, top, _, _ = self.geometry()
+        area = (left + start[0], top + start[1], left + end[0], top + end[1])
+        return np.array(self.desktop.screenshot(area).convert("RGB"))
+
+    def board_size(self):
+        _, _, width, height = self.geometry()
+        return (width - 238) // CELL, (height - 67) // CELL
+
+    def board(self):
+        """The board, with "?" where a cell shows neither a ball nor the field."""
+        columns, rows = self.board_size()
+        pixels = self.look((BOARD, BOARD), (BOARD + CELL * columns, BOARD + CELL * rows))
+        cells = pixels.reshape(rows, CELL, columns, CELL, 3).transpose(2, 0, 1, 3, 4)
+        shown = np.full((columns, rows), "?")
+        for content, picture in CELL_PIXELS.items():
+            shown[(cells == picture).all((2, 3, 4))] = content
+        return tuple(map("".join, shown))
+
+    def expect_board(self, expected, cause):
+        try:
+            wait_for("the board", lambda: self.board() == expected)
+        except AssertionError:
+            raise AssertionError(f"after {cause}\n\nmust come\n{model.text(expected)}\n\nbut there is\n"
+                                 f"{model.text(self.board())}") from None
+
+    def in_panel(self, place):
+        return place[0] + CELL * self.board_size()[0] + 40, place[1] + BOARD
+
+    def balls_left_line(self):
+        return self.look(self.in_panel((5, 187)), self.in_panel((175, 204))).tobytes()
+
+    def is_marked(self, box):
+        x, y = self.in_panel(box)
+        return (self.look((x - 3, y - 3), (x + 4, y + 4)).sum(2) < 200).sum() > 4
+
+    def act(self, *actions):
+        """Pointer and keys in the terms of xdotool, where a pair is a place in the window."""
+        left, top, _, _ = self.geometry()
+        words = []
+        for action in actions:
+            words += ["mousemove", left + action[0], top + action[1]] if isinstance(action, tuple) else [action]
+        self.desktop.xdotool(*words)
+
+    def act_at_once(self, *actions):
+        """Hands the program all actions together, so that those after a press come during its move."""
+        self.process.send_signal(signal.SIGSTOP)
+        self.act(*actions)
+        self.process.send_signal(signal.SIGCONT)
+
+    def click(self, place):
+        self.act(self.in_panel(place), "click", 1)
+
+    def enter(self, columns, rows):
+        for box, typed in ((COLUMNS_BOX, columns), (ROWS_BOX, rows)):
+            self.act(self.in_panel(box), "click", 1, "key", "ctrl+a", "type", "--", typed)
+
+    def play(self, board, cell, button=1):
+        """Presses a ball of a group, and returns the board after it once the move is over and right."""
+        after = model.without(board, model.group(board, cell))
+        cause = f"button {button} on {cell} of\n{model.text(board)}"
+        line = self.balls_left_line()
+        self.act(centre(cell), "click", button)
+        self.expect_board(after, cause)
+        # The line changes at the very end of a move: before that, a next press would be dropped.
+        wait_for(f"another number of balls after {cause}", lambda: self.balls_left_line() != line)
+        return after
+
+    def deal(self):
+        self.click(NEW_GAME)
+        self.catch_up()
+        return self.board()
+
+    def catch_up(self):
+        """Returns once the program has handled all that was done so far."""
+        on = self.is_marked(SOUND_SWITCH)
+        for state in (not on, on):
+            self.click(SOUND_SWITCH)
+            wait_for("the sound switch's mark", lambda: self.is_marked(SOUND_SWITCH) == state)

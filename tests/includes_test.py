@@ -1,0 +1,41 @@
+#!/usr/bin/python3
+"""The folders include each other one way only, and the rules stand on the standard library alone."""
+
+import re
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+ALLOWED = {
+    "rules": set(),
+    "settings": {"<Q", "system"},
+    "platform": {"<Q", "<SDL", "system"},
+    "assets": {"<Q"},
+    "mainwindow": {"<Q", "rules", "settings", "platform", "assets"},
+}
+
+
+def source_of(include):
+    """The folder of a quoted include, or the library of one in angle brackets; empty for the standard one."""
+    if include[0] == '"':
+        return include[1:].partition("/")[0]
+    if include.endswith(".h") or "/" in include or include[1].isupper():
+        return next((library for library in ("<Q", "<SDL") if include.startswith(library)), "system")
+    return ""  # the standard library
+
+
+def faults():
+    for folder, allowed in ALLOWED.items():
+        sources = [path for path in (ROOT / folder).iterdir() if path.suffix in (".h", ".cpp")]
+        if not sources:
+            yield f"{folder}: no sources found"
+        for path in sources:
+            for include in re.findall(r'^#include ([<"][^>"]+)', path.read_text(), re.MULTILINE):
+                if source_of(include) not in allowed | {folder, ""}:
+                    yield f"{path.relative_to(ROOT)} must not include {include[1:]}"
+
+
+if __name__ == "__main__":
+    found = list(faults())
+    print("\n".join(found) or "every include points the right way")
+    sys.exit(bool(found))

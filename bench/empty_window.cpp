@@ -1,0 +1,12 @@
+// What the toolkit costs without a game: an empty window of the same size.
+
+#include <QApplication>
+#include <QWidget>
+
+int main(int argc, char* argv[]) {
+    const QApplication application(argc, argv);
+    QWidget window(nullptr, Qt::Window | Qt::FramelessWindowHint);
+    window.setFixedSize(738, 567);
+    window.show();
+    return QApplication::exec();
+}

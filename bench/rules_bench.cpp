@@ -1,0 +1,84 @@
+// The rules at work, each beside what it is compared with. bench/run.py prints the ratios.
+
+#include <benchmark/benchmark.h>
+
+#include "rules/deal.h"
+#include "rules/move.h"
+#include "rules/settle.h"
+#include "tests/rules/plain.h"
+
+namespace {
+
+using rules::Board;
+using rules::Code;
+
+// A board with a hole in every third cell and every fifth column empty.
+Board holedBoard(int NbCol, int NbLig) {
+    Board board = rules::emptyBoard(NbCol, NbLig);
+    for (std::size_t i = 0; i < board.cells.size(); ++i) {
+        const bool hole = i % 3 == 0 || (i / static_cast<std::size_t>(NbLig)) % 5 == 0;
+        board.cells[i] = hole ? Code::none : rules::codes[i % rules::codes.size()];
+    }
+    return board;
+}
+
+template <void (*settle)(Board&)>
+void settling(benchmark::State& state) {
+    const Board before = holedBoard(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+    Board board = before;
+    for (auto _ : state) {
+        board.cells = before.cells;
+        settle(board);
+        benchmark::DoNotOptimize(board.cells.data());
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(board.cells.size()));
+}
+BENCHMARK(settling<plain::settle>)->Name("settle plain")->Args({32, 1000});
+BENCHMARK(settling<rules::settle>)->Name("settle")->Args({32, 1000})->Args({25, 25})->Args({217, 151});
+
+struct IdleHost : rules::Host {
+    void cellCleared(rules::CellIndex) override {}
+    void yield() override {}
+    void scoreChanged() override {}
+    void lastMoveChanged(std::string_view) override {}
+    void remainingChanged(std::string_view) override {}
+    void playWave(std::string_view) override {}
+    void boardSettled() override {}
+    void gameEnded() override {}
+};
+
+void removing(benchmark::State& state) {
+    Board board = rules::emptyBoard(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+    IdleHost host;
+    for (auto _ : state) {
+        std::ranges::fill(board.cells, Code::red);
+        int S = 0;
+        rules::efface(board, static_cast<rules::CellIndex>(board.cells.size() / 2), Code::red, S, host);
+        benchmark::DoNotOptimize(S);
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(board.cells.size()));
+}
+BENCHMARK(removing)->Name("remove")->Args({25, 25})->Args({217, 151});
+
+void dealing(benchmark::State& state) {
+    rules::Game game;
+    rules::resizeBoard(game, 217, 151);
+    for (auto _ : state) {
+        rules::deal(game, 4, rules::Random(1));
+        benchmark::DoNotOptimize(game.board.cells.data());
+    }
+}
+BENCHMARK(dealing)->Name("deal");
+
+void dealingPlain(benchmark::State& state) {
+    Board board = rules::emptyBoard(217, 151);
+    for (auto _ : state) {
+        plain::deal(board, 6, rules::Random(1));
+        benchmark::DoNotOptimize(board.cells.data());
+    }
+}
+BENCHMARK(dealingPlain)->Name("deal plain");
+
+}  // namespace
+
+BENCHMARK_MAIN();

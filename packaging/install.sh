@@ -1,0 +1,60 @@
+#!/bin/bash
+# Installs the Debian packages of the named purposes, as far as they are missing: packaging/install.sh build game
+set -euo pipefail
+cd "$(dirname "$0")/.."
+# shellcheck source=packaging/steps.sh
+. packaging/steps.sh
+
+declare -A packages=(
+    [build]='g++ cmake ninja-build qt6-base-dev libsdl2-dev'
+    [game]='fonts-liberation x11-utils'
+    [wayland]='qt6-wayland wayland-utils'
+    [screen]='xvfb openbox xdotool x11-utils imagemagick'
+    [tests]='libgtest-dev xvfb openbox xdotool x11-utils imagemagick python3 python3-pil python3-numpy'
+    [asan]='clang libclang-rt-14-dev llvm'
+    [lint]='clang-format-14 clang-tidy-14 shellcheck pyflakes3'
+    [art]='librsvg2-bin imagemagick icoutils sox'
+    [bench]='libbenchmark-dev python3-xlib xvfb xdotool'
+)
+
+# The packages among the given ones that are not installed, in one line.
+missing_of() {
+    local installed
+    # The query fails as soon as one package is unknown; what it lists counts.
+    installed=$(dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null) || true
+    printf '%s installed\n' "$@" | sort -u | { grep -vxF -e "$installed" || true; } | cut -d' ' -f1 | paste -sd' '
+}
+
+# Runs apt-get as root, without a question.
+apt() {
+    local as_root=()
+    [[ $EUID == 0 ]] || as_root=(sudo)
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get --yes -o DPkg::Lock::Timeout=120 "$@"
+}
+
+wanted=()
+for purpose; do
+    [[ -v packages[$purpose] ]] || fail "There is no list of packages for '$purpose', only for: ${!packages[*]}."
+    read -ra list <<<"${packages[$purpose]}"
+    wanted+=("${list[@]}")
+done
+
+if ! command -v apt-get >/dev/null; then
+    say "This system has no apt-get, so nothing is installed; Debian's names of what is needed: ${wanted[*]}."
+    exit 0
+fi
+missing=$(missing_of "${wanted[@]}")
+[[ -n $missing ]] || exit 0
+
+by_hand="have an administrator run: apt-get install --no-install-recommends $missing"
+if [[ $EUID != 0 ]]; then
+    command -v sudo >/dev/null || fail "Packages are missing, and there is neither root nor sudo to install them; $by_hand"
+    say "Packages are missing; sudo may ask for your password to install them."
+    sudo -v || fail "Packages are missing, and sudo did not let them be installed; $by_hand"
+fi
+say "Installing packages: $missing."
+# Without new lists the old ones may still do; the installation tells.
+logged apt-update apt update || say "The lists of packages could not be brought up to date; going on with the old ones."
+read -ra list <<<"$missing"
+logged apt-install apt install --no-install-recommends "${list[@]}" ||
+    fail "The packages could not be installed (all of it in build/apt-install.log); check the network, and that this is Debian 12 or newer, then run this again."

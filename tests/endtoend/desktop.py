@@ -30,6 +30,7 @@ class Desktop:
             "HOME": str(home),
             "XDG_CONFIG_HOME": str(home),
             "XDG_RUNTIME_DIR": str(home),
+            "DBUS_SESSION_BUS_ADDRESS": "disabled:",
             "QT_QPA_PLATFORM": "xcb",
             "SDL_AUDIODRIVER": "disk",
             "SDL_DISKAUDIOFILE": str(self.loudspeaker),

@@ -75,7 +75,6 @@ void balls::connectControls() {
         ++k;
     }
     platform::onClick(*Frame1, [this] { Frame1_Click(); });
-    connect(Check1, &QCheckBox::toggled, this, [this] { warmUpSound(); });
     // The session may end without closing the window first.
     connect(qApp, &QGuiApplication::commitDataRequest, this, &balls::Form_Unload);
 

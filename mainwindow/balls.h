@@ -60,7 +60,6 @@ class balls : public QWidget, private rules::Host {
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
   private:
     enum Command { newGame = 0, quit = 1, reset = 2 };

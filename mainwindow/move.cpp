@@ -23,6 +23,9 @@ QString toText(std::string_view utf8) {
 void balls::c_MouseDown(int i) {
     exclusively([this, i] {
         pace = {};
+        if (rules::isGroup(game.board, i)) {
+            warmUpSound();  // the device opens while the balls vanish
+        }
         rules::playMove(game, i, *this);
     });
 }

@@ -1,4 +1,4 @@
-// The switch of the sound.
+// The sound of a move, and its switch.
 
 #include <QCheckBox>
 
@@ -13,7 +13,7 @@ void balls::PlayWave(std::string_view file) {
 }
 
 void balls::warmUpSound() {
-    if (Check1->isChecked() && isVisible()) {
+    if (Check1->isChecked()) {
         surroundings.sound.warmUp();
     }
 }

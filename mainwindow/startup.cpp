@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QTimer>
 
 #include "mainwindow/balls.h"
 #include "settings/number.h"
@@ -56,13 +55,6 @@ void balls::Form_Unload() {
     store.write(init, u"Lig"_s, Text1[0]->text());
     store.write(init, u"Son"_s, QString::number(Check1->isChecked() ? 1 : 0));
     store.flush();
-}
-
-void balls::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    // Once the window is on screen: nothing may delay its first appearance.
-    constexpr std::chrono::milliseconds settled{200};
-    QTimer::singleShot(settled, this, &balls::warmUpSound);
 }
 
 void balls::closeEvent(QCloseEvent* event) {

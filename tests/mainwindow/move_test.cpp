@@ -69,6 +69,21 @@ TEST(Move, GameEndsWithThePanelThatAClickOrANewGameHides) {
     }
 }
 
+TEST(Move, SoundDeviceOpensWhileTheBallsVanishButNeverInVain) {
+    World world;
+    world.open("r r b");
+    world.press(2);
+    EXPECT_EQ(world.sound.warmUps, 0) << "a lone ball makes no sound";
+    world.inPause = [&] { EXPECT_EQ(world.sound.warmUps, 1); };
+    world.press(0);
+    EXPECT_EQ(world.sound.warmUps, 1);
+    World silent;
+    silent.set("Son", "0");
+    silent.open("r r b");
+    silent.press(0);
+    EXPECT_EQ(silent.sound.warmUps, 0);
+}
+
 TEST(Move, PressesDuringAMoveAreDropped) {
     World world;
     world.open(columns);

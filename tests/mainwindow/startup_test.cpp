@@ -52,17 +52,5 @@ TEST(Startup, BoxesAreStoredAsTypedAndReadAgain) {
     EXPECT_EQ(world.game().board.NbLig, 16);
 }
 
-TEST(Startup, SoundWarmsUpAfterTheWindowShowsAndOnlyIfItIsSwitchedOn) {
-    World on;
-    World off;
-    off.set("Son", "0");
-    on.open();
-    off.open();
-    EXPECT_EQ(on.sound.warmUps, 0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return on.sound.warmUps > 0; }));
-    QTest::qWait(50);
-    EXPECT_EQ(off.sound.warmUps, 0);
-}
-
 }  // namespace
 }  // namespace mainwindow

@@ -6,14 +6,15 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRadioButton>
 
 #include "mainwindow/boardgeometry.h"
 #include "mainwindow/controls.h"
+#include "platform/label.h"
 #include "platform/mouse.h"
+#include "platform/text_box.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,19 +42,19 @@ void balls::bindControls() {
     Frame1 = control<QWidget>("Frame1");
     Frame2 = control<QWidget>("Frame2");
     Check1 = control<QCheckBox>("Check1");
-    sc = control<QLabel>("sc");
-    Label3 = control<QLabel>("Label3");
-    Label4 = control<QLabel>("Label4");
-    l1[0] = control<QLabel>("l1", 0);
-    l1[3] = control<QLabel>("l1", 3);
+    sc = control<platform::Label>("sc");
+    Label3 = control<platform::Label>("Label3");
+    Label4 = control<platform::Label>("Label4");
+    l1[0] = control<platform::Label>("l1", 0);
+    l1[3] = control<platform::Label>("l1", 3);
     for (int k = 0; auto& box : Text1) {
-        box = control<QLineEdit>("Text1", k++);
+        box = control<platform::TextBox>("Text1", k++);
     }
     for (int k = 0; auto& option : Option1) {
         option = control<QRadioButton>("Option1", k++);
     }
     for (int k = 0; auto& label : hsc) {
-        label = control<QLabel>("hsc", k++);
+        label = control<platform::Label>("hsc", k++);
         label->setEnabled(false);
     }
 }

@@ -19,9 +19,12 @@
 #include "settings/store.h"
 
 class QCheckBox;
-class QLabel;
-class QLineEdit;
 class QRadioButton;
+
+namespace platform {
+class Label;
+class TextBox;
+}  // namespace platform
 
 namespace mainwindow {
 
@@ -130,13 +133,13 @@ class balls : public QWidget, private rules::Host {
     QWidget* Frame1 = nullptr;
     QWidget* Frame2 = nullptr;
     QCheckBox* Check1 = nullptr;
-    QLabel* sc = nullptr;
-    QLabel* Label3 = nullptr;
-    QLabel* Label4 = nullptr;
-    std::array<QLineEdit*, 2> Text1{};
+    platform::Label* sc = nullptr;
+    platform::Label* Label3 = nullptr;
+    platform::Label* Label4 = nullptr;
+    std::array<platform::TextBox*, 2> Text1{};
     std::array<QRadioButton*, 5> Option1{};
-    std::array<QLabel*, 5> hsc{};
-    std::array<QLabel*, 4> l1{};  ///< elements 0 and 3 alone exist
+    std::array<platform::Label*, 5> hsc{};
+    std::array<platform::Label*, 4> l1{};  ///< elements 0 and 3 alone exist
 };
 
 }  // namespace mainwindow

@@ -1,8 +1,7 @@
 // The best scores: their rule, their reset, and the labels that show them.
 
-#include <QLabel>
-
 #include "mainwindow/balls.h"
+#include "platform/label.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,7 +18,7 @@ void balls::resetBestScore() {
 }
 
 void balls::showTable() {
-    for (int k = 0; QLabel * label : hsc) {
+    for (int k = 0; platform::Label * label : hsc) {
         label->setText(bestScores.hsc(k++));
     }
 }

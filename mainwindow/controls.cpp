@@ -3,13 +3,13 @@
 #include <algorithm>
 
 #include <QCheckBox>
-#include <QFontMetrics>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 
 #include "assets/pictures.h"
 #include "mainwindow/layout.h"
+#include "platform/label.h"
+#include "platform/text_box.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,20 +17,12 @@ namespace mainwindow {
 namespace {
 
 QLabel* createLabel(const ControlRow& row, QWidget& parent) {
-    auto* label = new QLabel(QString::fromUtf8(row.text), &parent);
+    auto* label = new platform::Label(QString::fromUtf8(row.text), &parent);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(row.align | Qt::AlignTop);
     label->setWordWrap(row.wraps);
+    label->setSizedToText(row.autoSize);
     return label;
-}
-
-// A line too low for its label at the top is centred instead: it then overlaps with nothing but its blank
-// rows.
-void keepLettersWhole(const ControlRow& row, QLabel& label) {
-    const QFontMetrics metrics(label.font());
-    if (metrics.ascent() + metrics.tightBoundingRect(label.text()).bottom() >= label.height()) {
-        label.setAlignment(row.align | Qt::AlignVCenter);
-    }
 }
 
 QLabel* createPicture(const ControlRow& row, QWidget& parent) {
@@ -53,12 +45,6 @@ QFrame* createShape(QWidget& parent) {
     return shape;
 }
 
-QLineEdit* createTextBox(const ControlRow& row, QWidget& parent) {
-    auto* box = new QLineEdit(QString::fromUtf8(row.text), &parent);
-    box->setContextMenuPolicy(Qt::PreventContextMenu);
-    return box;
-}
-
 QWidget* createWidget(const ControlRow& row, QWidget& parent) {
     switch (row.kind) {
         case Kind::label:
@@ -70,7 +56,7 @@ QWidget* createWidget(const ControlRow& row, QWidget& parent) {
         case Kind::checkBox:
             return new QCheckBox(QString::fromUtf8(row.text), &parent);
         case Kind::textBox:
-            return createTextBox(row, parent);
+            return new platform::TextBox(QString::fromUtf8(row.text), &parent);
         case Kind::shape:
             return createShape(parent);
         default:
@@ -88,12 +74,6 @@ void createControl(const ControlRow& row, QWidget& parent) {
     palette.setColor(QPalette::WindowText, row.colour);
     control->setPalette(palette);
     control->setGeometry(platform::toPixels(row.place));
-    if (row.autoSize) {
-        control->adjustSize();
-    }
-    if (row.kind == Kind::label) {
-        keepLettersWhole(row, *static_cast<QLabel*>(control));
-    }
     control->setHidden(row.hidden);
 }
 

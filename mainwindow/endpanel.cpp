@@ -1,8 +1,7 @@
 // The panel that shows at the end of a game.
 
-#include <QLabel>
-
 #include "mainwindow/balls.h"
+#include "platform/label.h"
 #include "platform/look.h"
 
 namespace mainwindow {
@@ -25,7 +24,6 @@ void balls::setScoreBold(bool bold) {
     const QFont font = platform::uiFont(platform::FontSize::small, bold ? QFont::Bold : QFont::Normal);
     sc->setFont(font);
     Label3->setFont(font);
-    Label3->adjustSize();
 }
 
 }  // namespace mainwindow

@@ -4,11 +4,9 @@
 
 #include <utility>
 
-#include <QLabel>
-
 #include "mainwindow/balls.h"
 #include "mainwindow/boardgeometry.h"
-#include "platform/fitted_text.h"
+#include "platform/label.h"
 #include "platform/yield.h"
 
 namespace mainwindow {
@@ -60,11 +58,11 @@ void balls::scoreChanged() {
 }
 
 void balls::lastMoveChanged(std::string_view text) {
-    platform::setFittedText(*l1[0], toText(text));
+    l1[0]->setText(toText(text));
 }
 
 void balls::remainingChanged(std::string_view text) {
-    platform::setFittedText(*l1[3], toText(text));
+    l1[3]->setText(toText(text));
 }
 
 void balls::playWave(std::string_view file) {

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-#include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 
 #include "mainwindow/balls.h"
 #include "mainwindow/boardgeometry.h"
 #include "mainwindow/sizing.h"
+#include "platform/label.h"
+#include "platform/text_box.h"
 #include "platform/yield.h"
 #include "rules/deal.h"
 #include "rules/outcome.h"
@@ -16,7 +16,7 @@
 namespace mainwindow {
 namespace {
 
-int requested(const QLineEdit& box) {
+int requested(const platform::TextBox& box) {
     return leadingNumber(box.text().toStdU16String());
 }
 

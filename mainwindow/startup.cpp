@@ -7,10 +7,10 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QLineEdit>
 #include <QRadioButton>
 
 #include "mainwindow/balls.h"
+#include "platform/text_box.h"
 #include "settings/number.h"
 
 using namespace Qt::StringLiterals;

@@ -5,13 +5,13 @@
 #include <vector>
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "mainwindow/balls.h"
 #include "mainwindow/controls.h"
+#include "platform/text_box.h"
 #include "rules/deal.h"
 #include "tests/rules/pictures.h"
 
@@ -59,6 +59,7 @@ struct World {
             },
         });
         window->show();
+        window->grab();  // the first painting completes labels and boxes
     }
 
     const rules::Game& game() const { return window->currentGame(); }
@@ -76,10 +77,10 @@ struct World {
         return found;
     }
     std::string text(const char* name, int index = -1) const { return control(name, index)->text().toStdString(); }
-    std::string box(int index) const { return control<QLineEdit>("Text1", index)->text().toStdString(); }
+    std::string box(int index) const { return control<platform::TextBox>("Text1", index)->text().toStdString(); }
     void type(const char* Col, const char* Lig) const {
-        control<QLineEdit>("Text1", 1)->setText(QString::fromUtf8(Col));
-        control<QLineEdit>("Text1", 0)->setText(QString::fromUtf8(Lig));
+        control<platform::TextBox>("Text1", 1)->setText(QString::fromUtf8(Col));
+        control<platform::TextBox>("Text1", 0)->setText(QString::fromUtf8(Lig));
     }
     void command(int index) const { QTest::mouseClick(control("LabBtn", index), Qt::LeftButton); }
     void select(int level) const { control<QRadioButton>("Option1", level)->click(); }

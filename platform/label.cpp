@@ -1,0 +1,52 @@
+#include "platform/label.h"
+
+#include <algorithm>
+
+#include <QFontMetrics>
+#include <QPainter>
+
+namespace platform {
+namespace {
+
+// Where the text goes: letters that would end below the label are centred, and lose nothing but blank rows.
+Qt::Alignment alignmentFor(const QLabel& label, const QFontMetrics& metrics) {
+    const bool whole = metrics.ascent() + metrics.tightBoundingRect(label.text()).bottom() < label.height();
+    return whole ? label.alignment() : (label.alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
+}
+
+}  // namespace
+
+QFont condensed(QFont font, const QString& text, int width) {
+    constexpr int narrowest = 50;
+    const auto widthAt = [&](int stretch) {
+        font.setStretch(stretch);
+        return QFontMetrics(font).horizontalAdvance(text);
+    };
+    // Hinted letters do not shrink evenly, so the proportion is only near the answer.
+    const int proportion = QFont::Unstretched * width / std::max(widthAt(QFont::Unstretched), 1);
+    int stretch = std::clamp<int>(proportion, narrowest, QFont::Unstretched);
+    while (widthAt(stretch) > width && stretch > narrowest) {
+        --stretch;
+    }
+    return font;
+}
+
+void Label::setSizedToText(bool sized) {
+    sizedToText = sized;
+}
+
+void Label::paintEvent(QPaintEvent*) {
+    if (sizedToText) {
+        adjustSize();
+    }
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    if (wordWrap()) {
+        painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextWordWrap, text());
+        return;
+    }
+    painter.setFont(condensed(font(), text(), width()));
+    painter.drawText(rect(), static_cast<int>(alignmentFor(*this, painter.fontMetrics())), text());
+}
+
+}  // namespace platform

@@ -57,4 +57,4 @@ say "Installing packages: $missing."
 logged apt-update apt update || say "The lists of packages could not be brought up to date; going on with the old ones."
 read -ra list <<<"$missing"
 logged apt-install apt install --no-install-recommends "${list[@]}" ||
-    fail "The packages could not be installed (all of it in build/apt-install.log); check the network, and that this is Debian 12 or newer, then run this again."
+    fail "Missing, and could not be installed: $missing. Check the network, and that this is Debian 12 or newer, then run this again (all of it in build/apt-install.log)."

@@ -19,7 +19,7 @@ logged() {
         fail "The file $log cannot be written; after a run as root, give the folder build to yourself or remove it."
     if ! "$@" >"$log" 2>&1 </dev/null; then
         {
-            grep -E -A2 -m12 '^E: |CMake Error|error:|undefined reference|No space left' "$log" || tail -n 30 "$log"
+            grep -E -A2 -m4 '^E: |CMake Error|error:|undefined reference|No space left' "$log" || tail -n 30 "$log"
         } | cut -c1-300 >&2
         return 1
     fi

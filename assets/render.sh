@@ -57,6 +57,7 @@ B 16 32
 BD 32 32
 PIECES
 
+render about 413 344 | convert png:- -alpha off -type TrueColor BMP3:pictures/about.bmp
 
 # The help icon stands on the field; the window icon stands on any ground, so its edges are not
 # blended, and its palette is chosen by hand: red, yellow and blue from dark to light, and white.

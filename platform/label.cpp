@@ -42,7 +42,10 @@ void Label::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     if (wordWrap()) {
-        painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextWordWrap, text());
+        // Room for a line that begins with the one letter that reaches out of its place.
+        const int overhang = std::max(0, -painter.fontMetrics().leftBearing(u'j'));
+        painter.drawText(rect().adjusted(overhang, 0, -overhang, 0), static_cast<int>(alignment()) | Qt::TextWordWrap,
+                         text());
         return;
     }
     painter.setFont(condensed(font(), text(), width()));

@@ -8,48 +8,71 @@
 namespace platform {
 namespace {
 
-class ClickFilter : public QObject {
+// Calls a function with every event of a control before the control handles it.
+template <typename Function>
+class Listener : public QObject {
   public:
-    ClickFilter(QWidget& watched, std::function<void()> atClick)
-        : QObject(&watched), control(watched), action(std::move(atClick)) {
+    Listener(QWidget& control, Function function) : QObject(&control), hear(std::move(function)) {
         control.installEventFilter(this);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        switch (event->type()) {
-            case QEvent::MouseButtonPress:
-            case QEvent::MouseButtonDblClick:
-                pressed = isLeft(event);
-                break;
-            case QEvent::MouseButtonRelease:
-                if (isLeft(event) && std::exchange(pressed, false) && isInside(event)) {
-                    action();
-                }
-                break;
-            case QEvent::Hide:
-                pressed = false;
-                break;
-            default:
-                break;
-        }
+        hear(*event);
         return QObject::eventFilter(watched, event);
     }
 
   private:
-    static bool isLeft(QEvent* event) { return static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton; }
-    bool isInside(QEvent* event) const {
-        return control.rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint());
-    }
-
-    QWidget& control;
-    std::function<void()> action;
-    bool pressed = false;
+    Function hear;
 };
+
+template <typename Function>
+void listen(QWidget& control, Function function) {
+    new Listener<Function>(control, std::move(function));
+}
+
+// The second press of a double click is a press like any other.
+bool isPress(const QEvent& event) {
+    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+}
+
+const QMouseEvent& asMouse(const QEvent& event) {
+    return static_cast<const QMouseEvent&>(event);
+}
+
+bool isLeft(const QEvent& event) {
+    return asMouse(event).button() == Qt::LeftButton;
+}
 
 }  // namespace
 
+void onPress(QWidget& control, std::function<void(const QMouseEvent&)> action) {
+    listen(control, [action = std::move(action)](const QEvent& event) {
+        if (isPress(event)) {
+            action(asMouse(event));
+        }
+    });
+}
+
+void onMove(QWidget& control, std::function<void()> action) {
+    control.setMouseTracking(true);
+    listen(control, [action = std::move(action)](const QEvent& event) {
+        if (event.type() == QEvent::MouseMove) {
+            action();
+        }
+    });
+}
+
 void onClick(QWidget& control, std::function<void()> action) {
-    new ClickFilter(control, std::move(action));
+    listen(control, [action = std::move(action), &control, pressed = false](const QEvent& event) mutable {
+        if (isPress(event)) {
+            pressed = isLeft(event);
+        } else if (event.type() == QEvent::Hide) {
+            pressed = false;
+        } else if (event.type() == QEvent::MouseButtonRelease && isLeft(event) && std::exchange(pressed, false) &&
+                   control.rect().contains(asMouse(event).position().toPoint())) {
+            action();
+        }
+    });
 }
 
 }  // namespace platform

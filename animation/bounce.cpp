@@ -1,0 +1,48 @@
+#include "animation/bounce.h"
+
+#include <cmath>
+
+namespace animation {
+namespace {
+
+constexpr int step = 10;
+
+int direction(double u) {
+    const int t = static_cast<int>(u * 100 + 1) - 50;
+    return t < 0 ? -1 : 1;
+}
+
+int position(int room, double u) {
+    return static_cast<int>(std::lrint(room * u));  // a half goes to the even neighbour
+}
+
+int turned(int Dir, int Pos, int room) {
+    if (Pos < 0) {
+        return 1;
+    }
+    return Pos > room ? -1 : Dir;
+}
+
+}  // namespace
+
+Balls scatter(int W, int H, const Draw& draw) {
+    Balls balls{};
+    for (Ball& ball : balls) {
+        ball.DirX = direction(draw());
+        ball.DirY = direction(draw());
+        ball.PosX = position(W - side, draw());
+        ball.PosY = position(H - side, draw());
+    }
+    return balls;
+}
+
+void pass(Balls& balls, int W, int H) {
+    for (Ball& ball : balls) {
+        ball.DirX = turned(ball.DirX, ball.PosX, W - side);
+        ball.DirY = turned(ball.DirY, ball.PosY, H - side);
+        ball.PosX += step * ball.DirX;
+        ball.PosY += step * ball.DirY;
+    }
+}
+
+}  // namespace animation

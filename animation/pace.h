@@ -1,0 +1,33 @@
+#pragma once
+
+#include <chrono>
+
+namespace animation {
+
+/// Paces an animation by the wall clock: 240 passes a second, drawn four at a time.
+class Pace {
+  public:
+    using Time = std::chrono::steady_clock::time_point;
+
+    explicit Pace(Time start) : done(start) {}
+
+    /// How many passes are due since they were last asked for. Not many: what was missed in a longer pause is not
+    /// made up for.
+    int passesDue(Time now) {
+        constexpr int most = 3 * passesPerFrame;
+        const auto due = (now - done) / pass;
+        done = due > most ? now : done + due * pass;
+        return due > most ? most : static_cast<int>(due);
+    }
+
+    /// When the next frame is due.
+    Time nextFrame() const { return done + passesPerFrame * pass; }
+
+  private:
+    static constexpr int passesPerFrame = 4;
+    static constexpr auto pass = std::chrono::nanoseconds(std::chrono::seconds(1)) / 240;
+
+    Time done;  // the passes until then were handed out
+};
+
+}  // namespace animation

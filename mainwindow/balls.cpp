@@ -3,15 +3,16 @@
 #include <utility>
 
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QRadioButton>
 
-#include "mainwindow/boardgeometry.h"
-#include "mainwindow/controls.h"
+#include "about/about.h"
+#include "assets/pictures.h"
+#include "mainwindow/layout.h"
+#include "platform/controls.h"
 #include "platform/label.h"
 #include "platform/mouse.h"
 #include "platform/text_box.h"
@@ -25,44 +26,51 @@ balls::balls(Surroundings world)
       surroundings(std::move(world)),
       bestScores(surroundings.store) {
     setWindowTitle(u"Zampotine"_s);
-    buildControls(*this);
+    platform::buildControls(controlsInWindow(), *this, assets::picture);
     bindControls();
     connectControls();
+    connectMouse();
     Form_Load();
 }
 
-template <typename Widget>
-Widget* balls::control(const char* name, int index) const {
-    auto* found = findChild<Widget*>(controlName(name, index));
-    Q_ASSERT(found != nullptr);
-    return found;
-}
+balls::~balls() = default;
 
 void balls::bindControls() {
-    Frame1 = control<QWidget>("Frame1");
-    Frame2 = control<QWidget>("Frame2");
-    Check1 = control<QCheckBox>("Check1");
-    sc = control<platform::Label>("sc");
-    Label3 = control<platform::Label>("Label3");
-    Label4 = control<platform::Label>("Label4");
-    l1[0] = control<platform::Label>("l1", 0);
-    l1[3] = control<platform::Label>("l1", 3);
+    Frame1 = platform::control<QWidget>(*this, "Frame1");
+    Frame2 = platform::control<QWidget>(*this, "Frame2");
+    platform::buildControls(controlsInFrame1(), *Frame1, assets::picture);
+    platform::buildControls(controlsInFrame2(), *Frame2, assets::picture);
+    Check1 = platform::control<QCheckBox>(*this, "Check1");
+    sc = platform::control<platform::Label>(*this, "sc");
+    Label1 = platform::control<platform::Label>(*this, "Label1");
+    Label3 = platform::control<platform::Label>(*this, "Label3");
+    Label4 = platform::control<platform::Label>(*this, "Label4");
+    Label7 = platform::control<platform::Label>(*this, "Label7");
+    l1[0] = platform::control<platform::Label>(*this, "l1", 0);
+    l1[3] = platform::control<platform::Label>(*this, "l1", 3);
+    for (int k = 0; auto& face : BTN) {
+        face = platform::control<QLabel>(*this, "BTN", k++);
+    }
+    for (int k = 0; auto& button : ImBTN) {
+        button = platform::control<QLabel>(*this, "ImBTN", k++);
+    }
     for (int k = 0; auto& box : Text1) {
-        box = control<platform::TextBox>("Text1", k++);
+        box = platform::control<platform::TextBox>(*this, "Text1", k++);
     }
     for (int k = 0; auto& option : Option1) {
-        option = control<QRadioButton>("Option1", k++);
+        option = platform::control<QRadioButton>(*this, "Option1", k++);
     }
     for (int k = 0; auto& label : hsc) {
-        label = control<platform::Label>("hsc", k++);
+        label = platform::control<platform::Label>(*this, "hsc", k++);
         label->setEnabled(false);
     }
+    endBalls = new animation::BouncingPictures(*Frame1);
 }
 
 void balls::connectControls() {
     for (int i = 0; i < 3; ++i) {
-        platform::onClick(*control<QLabel>("ImBTN", i), [this, i] { ImBTN_Click(i); });
-        platform::onClick(*control<QLabel>("LabBtn", i), [this, i] { LabBtn_Click(i); });
+        platform::onClick(*ImBTN[i], [this, i] { ImBTN_Click(i); });
+        platform::onClick(*platform::control<QLabel>(*this, "LabBtn", i), [this, i] { LabBtn_Click(i); });
     }
     for (int k = 0; QRadioButton * option : Option1) {
         // The options are one tab stop, entered at the selected one.
@@ -75,6 +83,7 @@ void balls::connectControls() {
         });
         ++k;
     }
+    platform::onPress(*platform::control<QLabel>(*this, "Image1"), [this](const QMouseEvent&) { Image1_MouseDown(); });
     platform::onClick(*Frame1, [this] { Frame1_Click(); });
     // The session may end without closing the window first.
     connect(qApp, &QGuiApplication::commitDataRequest, this, &balls::Form_Unload);
@@ -93,16 +102,6 @@ void balls::paintEvent(QPaintEvent* event) {
         c.draw(painter, game.board, area);
     }
     frame.draw(painter);
-}
-
-void balls::mousePressEvent(QMouseEvent* event) {
-    const QPoint point = event->position().toPoint();
-    if (frame.contains(point)) {
-        return;
-    }
-    if (const auto cell = cellAt(game.board, point)) {
-        c_MouseDown(*cell);
-    }
 }
 
 }  // namespace mainwindow

@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <memory>
 
 #include <QWidget>
 
+#include "animation/bouncing_pictures.h"
 #include "mainwindow/cellpictures.h"
 #include "mainwindow/pictureframe.h"
 #include "mainwindow/removalpace.h"
@@ -19,7 +21,12 @@
 #include "settings/store.h"
 
 class QCheckBox;
+class QLabel;
 class QRadioButton;
+
+namespace about {
+class About;
+}
 
 namespace platform {
 class Label;
@@ -38,19 +45,19 @@ struct Surroundings {
 };
 
 /// The main window: a shell that wires the controls to the rules, the best scores and the sound. Each subject
-/// has a file of its own: startup, commands, newgame, move, bestscore, endpanel.
+/// has a file of its own: startup, commands, newgame, move, bestscore, endpanel, feedback, help.
 class balls : public QWidget, private rules::Host {
     Q_OBJECT
 
   public:
     /// Creates the window, loads the settings and deals the first game; it is then ready to be shown.
     explicit balls(Surroundings world);
+    ~balls() override;
+    Q_DISABLE_COPY_MOVE(balls)
 
     /// Stores the board's size and the sound switch.
     void Form_Unload();
 
-    /// A press on cell i of the board: plays the move. Ignored while a move is under way.
-    void c_MouseDown(int i);
     /// A click on a command button: 0 new game, 1 quit, 2 reset of the best score; any other index does
     /// nothing. While a move is under way it is kept until the move is done.
     void ImBTN_Click(int Index);
@@ -61,11 +68,14 @@ class balls : public QWidget, private rules::Host {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    enum Command { newGame = 0, quit = 1, reset = 2 };
+    enum Command { newGame = 0, quit = 1, reset = 2, help };
+
+    static constexpr int noButton = 5;  ///< as a button's index: all show their normal face
 
     // startup
     void Form_Load();
@@ -80,6 +90,7 @@ class balls : public QWidget, private rules::Host {
     int selectedLevel() const;
 
     // move
+    void c_MouseDown(rules::CellIndex i, const QMouseEvent& press);
     void cellCleared(rules::CellIndex i) override;
     void yield() override;
     void scoreChanged() override;
@@ -97,9 +108,25 @@ class balls : public QWidget, private rules::Host {
 
     // endpanel
     void gameEnded() override;
+    void ShowEndPanel();
     void Frame1_Click();
     void hideEndPanel();
     void setScoreBold(bool bold);
+
+    // feedback
+    void connectMouse();
+    void Form_MouseDown(const QMouseEvent& press);
+    void Form_MouseMove();
+    void Frame2_MouseMove();
+    void Option1_MouseMove(int Index);
+    void ImBTN_MouseMove(int Index);
+    void LabBtn_MouseMove(int Index);
+    void highlight(int i);
+
+    // help
+    void Image1_MouseDown();
+    void openAbout();
+    void closeAbout();
 
     // sound
     void PlayWave(std::string_view file);
@@ -107,12 +134,11 @@ class balls : public QWidget, private rules::Host {
 
     // commands
     void exclusively(const std::function<void()>& sequence);
+    void perform(Command command);
     void keep(Command command);
     void runKept();
     void run(Command command);
 
-    template <typename Widget>
-    Widget* control(const char* name, int index = -1) const;
     void bindControls();
     void connectControls();
 
@@ -134,12 +160,19 @@ class balls : public QWidget, private rules::Host {
     QWidget* Frame2 = nullptr;
     QCheckBox* Check1 = nullptr;
     platform::Label* sc = nullptr;
+    platform::Label* Label1 = nullptr;
     platform::Label* Label3 = nullptr;
     platform::Label* Label4 = nullptr;
+    platform::Label* Label7 = nullptr;
+    std::array<QLabel*, 2> BTN{};
+    std::array<QLabel*, 3> ImBTN{};
     std::array<platform::TextBox*, 2> Text1{};
     std::array<QRadioButton*, 5> Option1{};
     std::array<platform::Label*, 5> hsc{};
     std::array<platform::Label*, 4> l1{};  ///< elements 0 and 3 alone exist
+    animation::BouncingPictures* endBalls = nullptr;
+
+    std::unique_ptr<about::About> About;  ///< while it is open
 };
 
 }  // namespace mainwindow

@@ -7,14 +7,8 @@
 namespace mainwindow {
 
 void balls::ImBTN_Click(int Index) {
-    if (Index < newGame || Index > reset) {
-        return;
-    }
-    const auto command = static_cast<Command>(Index);
-    if (moving) {
-        keep(command);
-    } else {
-        run(command);
+    if (Index >= newGame && Index <= reset) {
+        perform(static_cast<Command>(Index));
     }
 }
 
@@ -22,11 +16,8 @@ void balls::LabBtn_Click(int Index) {
     ImBTN_Click(Index);
 }
 
-// One move or new game at a time: a press inside its yields is dropped, a command waits for its end.
+// One move or new game at a time: inside its yields a press is dropped and a command waits for its end.
 void balls::exclusively(const std::function<void()>& sequence) {
-    if (moving) {
-        return;
-    }
     moving = true;
     sequence();
     moving = false;
@@ -46,6 +37,14 @@ void balls::runKept() {
     running = false;
 }
 
+void balls::perform(Command command) {
+    if (moving) {
+        keep(command);
+    } else {
+        run(command);
+    }
+}
+
 void balls::keep(Command command) {
     closing = closing || command == quit;
     kept.push_back(command);
@@ -62,6 +61,9 @@ void balls::run(Command command) {
             break;
         case reset:
             resetBestScore();
+            break;
+        case help:
+            openAbout();
             break;
     }
 }

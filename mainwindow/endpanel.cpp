@@ -3,12 +3,26 @@
 #include "mainwindow/balls.h"
 #include "platform/label.h"
 #include "platform/look.h"
+#include "rules/random.h"
+#include "settings/number.h"
 
 namespace mainwindow {
 
 void balls::gameEnded() {
     Frame1->show();
     setScoreBold(true);
+    ShowEndPanel();
+}
+
+void balls::ShowEndPanel() {
+    using platform::toTwips;
+    Frame1->setGeometry(platform::toPixels({250, 250, toTwips(Frame2->x()) - 300, toTwips(height()) - 500}));
+    Label1->setFixedWidth(Frame1->width());
+    Label7->setFixedWidth(Frame1->width());
+    // Not what Label4 shows: that may be the preview of another level by now.
+    const double best = settings::numberIn(bestScores.hsc(game.Diff)).value_or(0);
+    Label7->setVisible(best <= static_cast<double>(game.score));
+    endBalls->start(rules::Random(rules::seedFromClock()));
 }
 
 void balls::Frame1_Click() {
@@ -17,6 +31,7 @@ void balls::Frame1_Click() {
 
 void balls::hideEndPanel() {
     Frame1->hide();
+    endBalls->stop();
     setScoreBold(false);
 }
 

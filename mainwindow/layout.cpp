@@ -5,8 +5,9 @@
 namespace mainwindow {
 namespace {
 
-using enum Kind;
+using platform::ControlRow;
 using platform::FontSize;
+using enum platform::Kind;
 
 constexpr auto normalFace = "button-normal.gif";
 constexpr auto hoverFace = "button-hover.gif";
@@ -68,15 +69,16 @@ constexpr auto inFrame2 = std::to_array<ControlRow>({
 
 }  // namespace
 
-std::span<const ControlRow> controlsOf(Container container) {
-    switch (container) {
-        case Container::Frame1:
-            return inFrame1;
-        case Container::Frame2:
-            return inFrame2;
-        default:
-            return inWindow;
-    }
+std::span<const ControlRow> controlsInWindow() {
+    return inWindow;
+}
+
+std::span<const ControlRow> controlsInFrame1() {
+    return inFrame1;
+}
+
+std::span<const ControlRow> controlsInFrame2() {
+    return inFrame2;
 }
 
 }  // namespace mainwindow

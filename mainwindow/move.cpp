@@ -18,7 +18,15 @@ QString toText(std::string_view utf8) {
 
 }  // namespace
 
-void balls::c_MouseDown(int i) {
+void balls::c_MouseDown(rules::CellIndex i, const QMouseEvent& press) {
+    if (moving) {
+        return;
+    }
+    highlight(noButton);
+    if (game.board[i] == rules::Code::none) {
+        Form_MouseDown(press);
+        return;
+    }
     exclusively([this, i] {
         pace = {};
         if (rules::isGroup(game.board, i)) {

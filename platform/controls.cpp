@@ -1,4 +1,4 @@
-#include "mainwindow/controls.h"
+#include "platform/controls.h"
 
 #include <algorithm>
 
@@ -6,18 +6,16 @@
 #include <QLabel>
 #include <QRadioButton>
 
-#include "assets/pictures.h"
-#include "mainwindow/layout.h"
 #include "platform/label.h"
 #include "platform/text_box.h"
 
 using namespace Qt::StringLiterals;
 
-namespace mainwindow {
+namespace platform {
 namespace {
 
 QLabel* createLabel(const ControlRow& row, QWidget& parent) {
-    auto* label = new platform::Label(QString::fromUtf8(row.text), &parent);
+    auto* label = new Label(QString::fromUtf8(row.text), &parent);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(row.align | Qt::AlignTop);
     label->setWordWrap(row.wraps);
@@ -25,10 +23,10 @@ QLabel* createLabel(const ControlRow& row, QWidget& parent) {
     return label;
 }
 
-QLabel* createPicture(const ControlRow& row, QWidget& parent) {
-    auto* picture = new QLabel(&parent);
-    picture->setPixmap(assets::picture(QString::fromLatin1(row.picture)));
-    return picture;
+QLabel* createPicture(const ControlRow& row, QWidget& parent, const PictureSource& picture) {
+    auto* control = new QLabel(&parent);
+    control->setPixmap(picture(QString::fromLatin1(row.picture)));
+    return control;
 }
 
 QWidget* createFrame(QWidget& parent) {
@@ -45,18 +43,18 @@ QFrame* createShape(QWidget& parent) {
     return shape;
 }
 
-QWidget* createWidget(const ControlRow& row, QWidget& parent) {
+QWidget* createWidget(const ControlRow& row, QWidget& parent, const PictureSource& picture) {
     switch (row.kind) {
         case Kind::label:
             return createLabel(row, parent);
         case Kind::picture:
-            return createPicture(row, parent);
+            return createPicture(row, parent, picture);
         case Kind::option:
             return new QRadioButton(QString::fromUtf8(row.text), &parent);
         case Kind::checkBox:
             return new QCheckBox(QString::fromUtf8(row.text), &parent);
         case Kind::textBox:
-            return new platform::TextBox(QString::fromUtf8(row.text), &parent);
+            return new TextBox(QString::fromUtf8(row.text), &parent);
         case Kind::shape:
             return createShape(parent);
         default:
@@ -64,23 +62,17 @@ QWidget* createWidget(const ControlRow& row, QWidget& parent) {
     }
 }
 
-void createControl(const ControlRow& row, QWidget& parent) {
-    QWidget* control = createWidget(row, parent);
+void createControl(const ControlRow& row, QWidget& parent, const PictureSource& picture) {
+    QWidget* control = createWidget(row, parent, picture);
     control->setObjectName(controlName(row.name, row.index));
     control->setAttribute(Qt::WA_NoMousePropagation);
     control->setToolTip(QString::fromUtf8(row.toolTip));
-    control->setFont(platform::uiFont(row.size, row.bold ? QFont::Bold : QFont::Normal));
+    control->setFont(uiFont(row.size, row.bold ? QFont::Bold : QFont::Normal));
     QPalette palette = control->palette();
     palette.setColor(QPalette::WindowText, row.colour);
     control->setPalette(palette);
-    control->setGeometry(platform::toPixels(row.place));
+    control->setGeometry(toPixels(row.place));
     control->setHidden(row.hidden);
-}
-
-void build(Container container, QWidget& parent) {
-    // A new widget lies in front of its elder siblings.
-    const auto rows = controlsOf(container);
-    std::for_each(rows.rbegin(), rows.rend(), [&](const ControlRow& row) { createControl(row, parent); });
 }
 
 }  // namespace
@@ -90,10 +82,9 @@ QString controlName(const char* name, int index) {
     return index < 0 ? bare : u"%1(%2)"_s.arg(bare).arg(index);
 }
 
-void buildControls(QWidget& window) {
-    build(Container::window, window);
-    build(Container::Frame1, *window.findChild<QWidget*>(u"Frame1"_s));
-    build(Container::Frame2, *window.findChild<QWidget*>(u"Frame2"_s));
+void buildControls(std::span<const ControlRow> rows, QWidget& container, const PictureSource& picture) {
+    // A new widget lies in front of its elder siblings.
+    std::for_each(rows.rbegin(), rows.rend(), [&](const ControlRow& row) { createControl(row, container, picture); });
 }
 
-}  // namespace mainwindow
+}  // namespace platform

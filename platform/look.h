@@ -9,7 +9,7 @@ namespace platform {
 inline constexpr QRgb steelBlue = qRgb(128, 160, 192);
 
 /// Sizes of the windows' fonts, in pixels.
-enum class FontSize { small = 11, large = 32 };
+enum class FontSize { small = 11, medium = 16, large = 32 };
 
 /// The windows' font. Liberation Sans is the one that the layout's widths hold; pixels keep a session's font
 /// settings out.

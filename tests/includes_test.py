@@ -10,8 +10,10 @@ ALLOWED = {
     "rules": set(),
     "settings": {"<Q", "system"},
     "platform": {"<Q", "<SDL", "system"},
+    "animation": {"<Q", "platform"},
     "assets": {"<Q"},
-    "mainwindow": {"<Q", "rules", "settings", "platform", "assets"},
+    "about": {"<Q", "platform", "animation", "assets"},
+    "mainwindow": {"<Q", "rules", "settings", "platform", "animation", "assets", "about"},
 }
 
 

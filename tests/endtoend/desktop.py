@@ -10,11 +10,11 @@ from PIL import ImageGrab
 PATIENCE = 20  # seconds until something that must come counts as missing
 
 
-def wait_for(what, condition):
-    deadline = time.monotonic() + PATIENCE
+def wait_for(what, condition, patience=PATIENCE):
+    deadline = time.monotonic() + patience
     while not (value := condition()):
         if time.monotonic() > deadline:
-            raise AssertionError(f"{what}: nothing of it within {PATIENCE} s")
+            raise AssertionError(f"{what}: nothing of it within {patience} s")
         time.sleep(0.01)
     return value
 
@@ -30,11 +30,17 @@ class Desktop:
             "HOME": str(home),
             "XDG_CONFIG_HOME": str(home),
             "XDG_RUNTIME_DIR": str(home),
+            "PATH": f"{home}:{os.environ['PATH']}",
             "DBUS_SESSION_BUS_ADDRESS": "disabled:",
             "QT_QPA_PLATFORM": "xcb",
             "SDL_AUDIODRIVER": "disk",
             "SDL_DISKAUDIOFILE": str(self.loudspeaker),
         }
+        # What opens addresses for the player notes them down.
+        self.opened = home / "opened"
+        opener = home / "xdg-open"
+        opener.write_text(f'#!/bin/sh\necho "$@" >>"{self.opened}"\n')
+        opener.chmod(0o755)
         self._stack = stack
         xvfb = self.start("Xvfb", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24", output=subprocess.PIPE)
         self.environment["DISPLAY"] = ":" + xvfb.stdout.readline().decode().strip()

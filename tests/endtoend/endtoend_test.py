@@ -5,15 +5,18 @@ Usage: endtoend_test.py PROGRAM FOLDER [TEST...], where FOLDER takes the screens
 """
 import contextlib
 import pathlib
+import random
 import signal
 import sys
+import time
 import unittest
 
 import numpy as np
 
 import model
 from desktop import PATIENCE, Desktop, wait_for
-from player import COLOURS, NEW_GAME, OPTIONS, QUIT_CAPTION, QUIT_PICTURE, SOUND_SWITCH, Player, centre
+from player import (BACK, COLOURS, HELP_ICON, MAIL, NEW_GAME, OPTIONS, QUIT_CAPTION, QUIT_PICTURE, SITE, SOUND_SWITCH,
+                    Player, centre)
 
 PROGRAM, FOLDER = (pathlib.Path(path).resolve() for path in sys.argv[1:3])
 SOUNDS = pathlib.Path(__file__).resolve().parents[2] / "assets" / "sounds"
@@ -86,8 +89,9 @@ class EndToEnd(unittest.TestCase):
                 missing.discard(sounds[cell])
 
     def test_whole_games(self):
-        for balls_left, factor in ((1, 1), (0, 2)):
-            with self.subTest(balls_left=balls_left), self.player("Col=8\nLig=14\nSon=0\n") as player:
+        for balls_left, factor, best in ((1, 1, 0), (0, 2, 1000000)):
+            settings = f"Col=8\nLig=14\nSon=0\n0={best}\n"
+            with self.subTest(balls_left=balls_left), self.player(settings) as player:
                 board = player.board()
                 while not (presses := model.game_ending_with(balls_left, board)):
                     board = player.deal()
@@ -96,13 +100,18 @@ class EndToEnd(unittest.TestCase):
                     press = f"{cell} on\n{model.text(board)}"
                     score += model.points(len(model.group(board, cell)))
                     board = player.play(board, cell)
-                    self.assertEqual(player.stored()["0"], str(score), press)
+                    self.assertEqual(player.stored()["0"], str(max(score, best)), press)
                 press = f"{presses[-1]} on\n{model.text(board)}"
                 last = model.group(board, presses[-1])
                 score = (score + model.points(len(last))) * factor
                 player.act(centre(presses[-1]), "click", 1)
                 wait_for(f"a panel over the board after {press}", lambda: "?" in "".join(player.board()))
-                self.assertEqual(player.stored()["0"], str(score), press)
+                self.assertEqual(player.stored()["0"], str(max(score, best)), press)
+                for about_seen in (False, True):
+                    panel = player.look((17, 17), (17 + 180, 17 + 313))
+                    says_best = (panel == (192, 0, 0)).all(2).sum() > 100
+                    self.assertEqual(says_best, score >= best, f"about_seen={about_seen} after {press}")
+                    player.leave_about(player.open_about(), "key", "Escape")
                 player.act((100, 214), "click", 1)  # on the panel, beside its labels and balls
                 player.expect_board(model.without(board, last), "a click on the end-of-game panel")
 
@@ -122,6 +131,73 @@ class EndToEnd(unittest.TestCase):
             score = model.points(len(first)) + model.points(len(last))
             stored = {"Niveau": "0", "0": str(score), "Col": "40", "Lig": "30", "Son": "1"}
             self.assertEqual(player.stored(), stored, f"{min(last)} on\n{model.text(after)}")
+
+    def test_drags(self):
+        with self.player("Col=25\nLig=20\nSon=0\n") as player:
+            board = player.board()
+            board = player.play(board, min(model.groups(board)[-1]))
+            hole = next((x, 0) for x, column in enumerate(board) if column[0] == ".")
+            follows = {"background": (200, 445), "hole": centre(hole)}
+            follows |= {name: player.in_panel(place) for name, place in {
+                "sc": (80, 157), "Label3": (100, 157), "l1(0)": (60, 175), "l1(3)": (60, 195), "Label2": (40, 100),
+                "Label4": (104, 102)}.items()}
+            stays = {"border": (100, 5), "corner": (3, 3), "ball": centre((0, 19))}
+            stays |= {name: player.in_panel(place) for name, place in {
+                "Frame2": (160, 40), "Shape1": (165, 135), "Label5": (100, 7), "Check1": (60, 80), "Text1": (118, 27),
+                "Option1": (40, 8), "LabBtn": (89, 126)}.items()}
+            player.catch_up()
+            looks = player.look((0, 0), (738, 467))
+            moves = [(1, 0), (-250, 180), (40, -33), (430, 260), (0, 0)]
+            for name, place in follows.items():
+                for button in (1, 2, 3):
+                    self.assertEqual(player.drag(place, button, moves), moves, f"button {button} on {name}")
+            self.assertTrue((player.look((0, 0), (738, 467)) == looks).all(), "drags leave the game as it was")
+            for number, (name, place) in enumerate(stays.items()):
+                self.assertEqual(player.drag(place, 1 + number % 3, moves[1:2]), [(0, 0)], f"{name} drags")
+
+    def test_about(self):
+        with self.player("Col=25\nLig=20\nSon=0\n") as player:
+            player.drag((200, 445), 1, [(-300, 210)])
+            board, place = player.board(), player.geometry()
+            for button, leave in ((1, (BACK, "click", 1)), (2, ("key", "Escape")), (3, ("key", "alt+F4"))):
+                about = player.open_about(button)
+                self.assertEqual(player.geometry(about), ((1600 - 413) // 2, (1200 - 344) // 2, 413, 344))
+                player.leave_about(about, *leave)
+                self.assertEqual(player.geometry(), place)
+                self.assertEqual(player.board(), board)
+            about = player.open_about()
+            player.act(MAIL, "click", 3, "click", 1, window=about)
+            wait_for("a mail", player.desktop.opened.exists)
+            player.act(SITE, "click", 1, window=about)
+            addresses = wait_for("the web site", lambda: "https" in (text := player.desktop.opened.read_text()) and text)
+            self.assertEqual(addresses.split(), ["mailto:auteur@example.org?subject=Frelquat%20V1.0",
+                                                 "https://www.example.org/"])
+            player.process.terminate()
+            self.assertEqual(player.process.wait(PATIENCE), 0)
+            self.assertEqual(player.stored(), {"Col": "25", "Lig": "20", "Son": "0", "Niveau": "0"})
+
+    def test_monkey(self):
+        with self.player("Col=12\nLig=14\nSon=0\n") as player:
+            monkey = random.Random(20)
+            _, _, width, height = player.geometry()
+            spared = [player.in_panel(place) for place in ((103, 224), (0, 72))]  # "Quitter", and the slow sounds
+            for _ in range(10):
+                actions = []
+                while len(actions) < 20 * 7:
+                    x, y = monkey.randrange(width), monkey.randrange(height)
+                    if monkey.random() < 0.05:
+                        x, y = player.in_panel(HELP_ICON)
+                    if not any(left <= x < left + 80 and top <= y < top + 20 for left, top in spared):
+                        actions += [(x, y), "click", "--repeat", 5, "--delay", 2, 1]
+                player.act(*actions)
+                time.sleep(0.5)  # longer than any move
+                self.assertIsNone(player.process.poll(), "the program has ended")
+                if (window := wait_for("a window", player.visible)) != player.window:
+                    player.leave_about(window, BACK, "click", 1)
+            player.deal()
+            self.assertLessEqual(set("".join(player.board())), set(COLOURS))
+            player.act("key", "alt+F4")
+            self.assertEqual(player.process.wait(PATIENCE), 0)
 
     def test_screens(self):
         for width, height, asked, columns, rows in (

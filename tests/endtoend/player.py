@@ -1,4 +1,5 @@
 """A player at the running program: sees its window as pixels and works it with pointer and keys."""
+import contextlib
 import pathlib
 import re
 import signal
@@ -18,6 +19,9 @@ BOARD = 33  # pixels from the window's left and top to the first cell, and from 
 OPTIONS = tuple((12, 8 + 14 * level) for level in range(5))
 COLUMNS_BOX, ROWS_BOX, SOUND_SWITCH = (118, 27), (157, 27), (12, 80)
 NEW_GAME, QUIT_PICTURE, QUIT_CAPTION = (37, 234), (109, 234), (141, 233)
+HELP_ICON = (89, 227)
+# Places in the About window.
+MAIL, SITE, BACK = (77, 315), (208, 314), (340, 313)
 
 
 def pixels_of(content):
@@ -43,15 +47,20 @@ class Player:
         if settings is not None:
             self.file.write_text("[init]\n" + settings)
         self.process = desktop.start(program)
-        self.window = wait_for("the window", lambda: desktop.xdotool("search", "--onlyvisible", "^Zampotine$").strip())
+        self.window = wait_for("the window", self.visible)
         wait_for("a dealt board", lambda: set("".join(self.board())) <= set(COLOURS))
         wait_for("the keyboard's focus", lambda: "Zampotine" in desktop.xdotool("getwindowfocus", "getwindowname"))
 
     def stored(self):
         return dict(re.findall("(.+)=(.*)", self.file.read_text()))
 
-    def geometry(self):
-        said = self.desktop.xdotool("getwindowgeometry", "--shell", self.window)
+    def visible(self):
+        """The program's window that shows; nothing if there is none, or more than one."""
+        windows = self.desktop.xdotool("search", "--onlyvisible", "^Zampotine$").split()
+        return windows[0] if len(windows) == 1 else None
+
+    def geometry(self, window=None):
+        said = self.desktop.xdotool("getwindowgeometry", "--shell", window or self.window)
         return tuple(map(int, re.findall(r"(?:X|Y|WIDTH|HEIGHT)=(-?\d+)", said)))
 
     def look(self, start, end):
@@ -91,9 +100,9 @@ class Player:
         x, y = self.in_panel(box)
         return (self.look((x - 3, y - 3), (x + 4, y + 4)).sum(2) < 200).sum() > 4
 
-    def act(self, *actions):
+    def act(self, *actions, window=None):
         """Pointer and keys in the terms of xdotool, where a pair is a place in the window."""
-        left, top, _, _ = self.geometry()
+        left, top, _, _ = self.geometry(window)
         words = []
         for action in actions:
             words += ["mousemove", left + action[0], top + action[1]] if isinstance(action, tuple) else [action]
@@ -107,6 +116,34 @@ class Player:
 
     def click(self, place):
         self.act(self.in_panel(place), "click", 1)
+
+    def expect_window(self, what, condition):
+        """The window that shows with the keyboard's focus, once it is the right one."""
+        window = wait_for(what, lambda: condition(self.visible()) and self.visible())
+        wait_for(f"the keyboard's focus in {what}", lambda: self.desktop.xdotool("getwindowfocus").strip() == window)
+        return window
+
+    def open_about(self, button=1):
+        self.act(self.in_panel(HELP_ICON), "click", button)
+        return self.expect_window("the About window", lambda window: window not in (None, self.window))
+
+    def leave_about(self, about, *actions):
+        self.act(*actions, window=about)
+        self.expect_window("the main window", lambda window: window == self.window)
+
+    def drag(self, place, button, moves):
+        """Drags from a place in the window by these moves, one after the other, and tells how far the window came by
+        each of them. The pointer ends far from where it let go."""
+        left, top, _, _ = self.geometry()
+        self.act(place, "mousedown", button)
+        came = []
+        for x, y in moves:
+            self.desktop.xdotool("mousemove", left + place[0] + x, top + place[1] + y)
+            with contextlib.suppress(AssertionError):
+                wait_for("the window", lambda: self.geometry()[:2] == (left + x, top + y), patience=0.5)
+            came.append((self.geometry()[0] - left, self.geometry()[1] - top))
+        self.desktop.xdotool("mouseup", button, "mousemove", 5, 5)
+        return came
 
     def enter(self, columns, rows):
         for box, typed in ((COLUMNS_BOX, columns), (ROWS_BOX, rows)):

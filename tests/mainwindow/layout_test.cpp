@@ -1,39 +1,13 @@
 #include <QAbstractButton>
 #include <QFontMetrics>
-#include <QPainter>
 #include <QStyle>
 
 #include "platform/label.h"
-#include "platform/look.h"
+#include "tests/ink.h"
 #include "tests/mainwindow/world.h"
 
 namespace mainwindow {
 namespace {
-
-// How much of a picture differs from the field.
-int ink(const QPixmap& picture) {
-    const QImage image = picture.toImage();
-    int sum = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            sum += std::abs(qGray(image.pixel(x, y)) - qGray(platform::steelBlue));
-        }
-    }
-    return sum;
-}
-
-// A label's text in this font, far from any edge.
-QPixmap unclipped(const QLabel& label, const QFont& font) {
-    QPixmap picture(800, 200);
-    picture.fill(platform::steelBlue);
-    QPainter painter(&picture);
-    painter.setFont(font);
-    painter.setPen(label.palette().color(QPalette::WindowText));
-    const bool wraps = label.wordWrap();
-    const QRect room(20, 20, label.width() + (wraps ? 0 : 400), 160);
-    painter.drawText(room, static_cast<int>(label.alignment()) | (wraps ? Qt::TextWordWrap : 0), label.text());
-    return picture;
-}
 
 TEST(Layout, NoTextIsClipped) {
     World world;

@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "mainwindow/balls.h"
-#include "mainwindow/controls.h"
+#include "platform/controls.h"
 #include "platform/text_box.h"
 #include "rules/deal.h"
 #include "tests/rules/pictures.h"
@@ -72,7 +72,7 @@ struct World {
 
     template <typename Widget = QLabel>
     Widget* control(const char* name, int index = -1) const {
-        auto* found = window->findChild<Widget*>(controlName(name, index));
+        auto* found = window->findChild<Widget*>(platform::controlName(name, index));
         EXPECT_NE(found, nullptr) << name << '(' << index << ')';
         return found;
     }
@@ -89,6 +89,19 @@ struct World {
     void press(int i, Qt::MouseButton button = Qt::LeftButton) const {
         const auto [col, row] = game().board.positionOf(static_cast<rules::CellIndex>(i));
         QTest::mousePress(window.get(), button, {}, {33 + 20 * col + 10, 33 + 20 * row + 10});
+    }
+
+    /// Removes the first group of a board that ends with that move.
+    void finish() const {
+        press(0);
+        EXPECT_TRUE(control<QWidget>("Frame1")->isVisible());
+    }
+
+    /// Moves the pointer as the window system tells of it: which control hears of it is the toolkit's decision.
+    void hover(QPoint place) const { QTest::mouseMove(window->windowHandle(), place); }
+    /// The same, to where a control shows that nothing else covers: near its corner.
+    void hover(const QWidget* control) const {
+        hover(control->mapTo(window.get(), QPoint(control->width() - 3, control->height() - 3)));
     }
 
   private:

@@ -1,0 +1,118 @@
+#include "about/about.h"
+
+#include <utility>
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+
+#include "about/layout.h"
+#include "assets/pictures.h"
+#include "platform/address.h"
+#include "platform/label.h"
+#include "platform/mouse.h"
+
+using namespace Qt::StringLiterals;
+
+namespace about {
+namespace {
+
+enum Link { back = 0, site = 1, mail = 2 };
+
+constexpr int none = 10;  // as an index: no label of a group
+
+// Sets one label of a group bold and the others regular.
+template <typename Group>
+void embolden(const Group& group, int Index, platform::FontSize size) {
+    for (int k = 0; platform::Label * label : group) {
+        label->setFont(platform::uiFont(size, k++ == Index ? QFont::Bold : QFont::Normal));
+    }
+}
+
+}  // namespace
+
+About::About(const platform::Box& screen, const animation::Draw& draw, std::function<void()> whenClosed)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
+      closed(std::move(whenClosed)),
+      background(assets::picture(u"about.bmp"_s)) {
+    setWindowTitle(u"Zampotine"_s);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFixedSize(background.size());
+    const platform::Box size{0, 0, platform::toTwips(width()), platform::toTwips(height())};
+    move(platform::toPixels(screen.Left + (screen.Width - size.Width) / 2),
+         platform::toPixels(screen.Top + (screen.Height - size.Height) / 2));
+    platform::buildControls(controls(), *this, assets::picture);
+    for (int k = 0; auto& label : Label1) {
+        label = platform::control<platform::Label>(*this, "Label1", k);
+        platform::onMove(*label, [this, k] { Label1_MouseMove(k); });
+        platform::onClick(*label, [this, k] { Label1_Click(k); });
+        ++k;
+    }
+    for (int k = 0; auto& label : Label2) {
+        label = platform::control<platform::Label>(*this, "Label2", k);
+        platform::onMove(*label, [this, k] { Label2_MouseMove(k); });
+        ++k;
+    }
+    Form_Load(draw);
+}
+
+void About::Form_Load(const animation::Draw& draw) {
+    balls = new animation::BouncingPictures(*this);
+    balls->start(draw);
+}
+
+void About::Label1_Click(int Index) {
+    switch (Index) {
+        case mail:
+            platform::openAddress(u"mailto:" ZAMPOTINE_AUTHOR_MAIL "?subject=Frelquat V" ZAMPOTINE_MAJOR_MINOR ""_s);
+            break;
+        case site:
+            platform::openAddress(u"" ZAMPOTINE_AUTHOR_SITE ""_s);
+            break;
+        case back:
+            close();
+            break;
+        default:
+            break;
+    }
+}
+
+void About::Label1_MouseMove(int Index) {
+    embolden(Label1, Index, platform::FontSize::medium);
+}
+
+void About::Label2_MouseMove(int Index) {
+    embolden(Label2, Index, platform::FontSize::small);
+    Label1_MouseMove(none);
+}
+
+void About::Form_MouseMove() {
+    Label2_MouseMove(none);
+}
+
+void About::closeEvent(QCloseEvent* event) {
+    event->accept();
+    hide();
+    closed();
+}
+
+void About::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel)) {
+        close();
+    }
+}
+
+void About::mouseMoveEvent(QMouseEvent*) {
+    Form_MouseMove();
+}
+
+void About::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    for (const QRect& area : event->region()) {
+        painter.drawPixmap(area, background, area);
+    }
+}
+
+}  // namespace about

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <span>
+
+#include <QWidget>
+
+#include "animation/bouncing_pictures.h"
+#include "platform/twips.h"
+
+namespace platform {
+class Label;
+}
+
+namespace about {
+
+/// The window that explains the game, with two links and bouncing balls behind the text.
+class About : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// Creates the window in the middle of a screen, given in twips, with its balls on their way; it is then ready
+    /// to be shown. However it is closed, it calls `whenClosed` once it is hidden.
+    About(const platform::Box& screen, const animation::Draw& draw, std::function<void()> whenClosed);
+
+    /// A click on a link: 2 writes a mail to the author, 1 opens the author's web site, 0 goes back to the game.
+    void Label1_Click(int Index);
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void Form_Load(const animation::Draw& draw);
+    void Form_MouseMove();
+    void Label1_MouseMove(int Index);
+    void Label2_MouseMove(int Index);
+
+    std::function<void()> closed;
+    QPixmap background;
+    std::array<platform::Label*, 3> Label1{};
+    std::array<platform::Label*, 6> Label2{};
+    animation::BouncingPictures* balls = nullptr;
+};
+
+}  // namespace about

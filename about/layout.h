@@ -1,0 +1,12 @@
+#pragma once
+
+#include <span>
+
+#include "platform/controls.h"
+
+namespace about {
+
+/// The controls of the About window, front to back.
+std::span<const platform::ControlRow> controls();
+
+}  // namespace about

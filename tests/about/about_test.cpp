@@ -1,0 +1,100 @@
+#include "about/about.h"
+
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "platform/controls.h"
+#include "platform/label.h"
+#include "tests/ink.h"
+
+namespace about {
+namespace {
+
+using platform::Label;
+
+struct OpenAbout {
+    int closed = 0;
+    About window{{0, 0, 24'000, 18'000}, [] { return 0.3; }, [this] { ++closed; }};
+
+    OpenAbout() { window.show(); }
+
+    // The pointer as the window system tells of it: which control hears of it is the toolkit's decision.
+    void hover(QPoint place) { QTest::mouseMove(window.windowHandle(), place); }
+
+    // The names of all labels that are bold.
+    std::string bold() const {
+        QStringList names;
+        for (const Label* label : window.findChildren<Label*>()) {
+            if (label->font().bold()) {
+                names += label->objectName();
+            }
+        }
+        names.sort();
+        return names.join(u' ').toStdString();
+    }
+};
+
+TEST(About, NoTextIsClippedBoldOrNot) {
+    OpenAbout about;
+    for (auto* label : about.window.findChildren<Label*>()) {
+        for (const auto weight : {QFont::Normal, QFont::Bold}) {
+            QFont font = label->font();
+            font.setWeight(weight);
+            label->setFont(font);
+            EXPECT_EQ(ink(label->grab()), ink(unclipped(*label, font))) << qPrintable(label->text());
+        }
+    }
+}
+
+TEST(About, LabelUnderTheMouseIsBoldAndALinkLeavesTheParagraphsAsTheyAre) {
+    OpenAbout about;
+    struct Row {
+        const char* name;
+        int index;
+        const char* bold;
+    };
+    const std::vector<Row> table{
+        {"Label2", 3, "Label2(3)"}, {"Label1", 1, "Label1(1) Label2(3)"}, {"Label1", 0, "Label1(0) Label2(3)"},
+        {"Label2", 0, "Label2(0)"}, {"Label1", 2, "Label1(2) Label2(0)"}, {"", 0, ""},
+        {"Label1", 2, "Label1(2)"}, {"Label2", 5, "Label2(5)"},           {"", 0, ""},
+    };
+    for (const Row& row : table) {
+        const QPoint background(200, 8);
+        about.hover(*row.name == '\0'
+                        ? background
+                        : platform::control<Label>(about.window, row.name, row.index)->geometry().center());
+        EXPECT_EQ(about.bold(), row.bold) << row.name << '(' << row.index << ')';
+    }
+}
+
+TEST(About, EveryWayOfClosingTellsOnceTheWindowIsHidden) {
+    const std::vector<std::pair<const char*, std::function<void(About&)>>> ways{
+        {"Retour",
+         [](About& window) { QTest::mouseClick(platform::control<Label>(window, "Label1", 0), Qt::LeftButton); }},
+        {"Escape", [](About& window) { QTest::keyClick(&window, Qt::Key_Escape); }},
+        {"window manager", [](About& window) { window.close(); }},
+    };
+    for (const auto& [what, close] : ways) {
+        OpenAbout about;
+        close(about.window);
+        EXPECT_EQ(about.closed, 1) << what;
+        EXPECT_FALSE(about.window.isVisible()) << what;
+    }
+}
+
+TEST(About, BallsRestWhileTheWindowIsHiddenAndGoOnAfterwards) {
+    OpenAbout about;
+    const auto* ball = platform::control<QWidget>(about.window, "ip");
+    const auto moves = [&] {
+        const QPoint before = ball->pos();
+        return QTest::qWaitFor([&] { return ball->pos() != before; }, 300);
+    };
+    EXPECT_TRUE(moves());
+    about.window.hide();
+    EXPECT_FALSE(moves());
+    about.window.show();
+    EXPECT_TRUE(moves());
+}
+
+}  // namespace
+}  // namespace about

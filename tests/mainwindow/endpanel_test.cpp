@@ -1,0 +1,49 @@
+#include "tests/mainwindow/world.h"
+
+namespace mainwindow {
+namespace {
+
+TEST(EndPanel, FillsTheWindowBesideTheSidePanel) {
+    for (const char* board : {"r r b", "rrb"}) {
+        World world;
+        world.open(board);
+        world.finish();
+        const QRect panel = world.control<QWidget>("Frame1")->geometry();
+        EXPECT_EQ(panel.topLeft(), QPoint(17, 17));
+        EXPECT_NEAR(world.control<QWidget>("Frame2")->x() - (panel.right() + 1), 50 / 15.0, 1);
+        EXPECT_NEAR(world.window->height() - (panel.bottom() + 1), 250 / 15.0, 1);
+        EXPECT_EQ(world.control("Label1")->width(), panel.width());
+        EXPECT_EQ(world.control("Label7")->width(), panel.width());
+    }
+}
+
+TEST(EndPanel, LineShowsWhenTheBestScoreIsReached) {
+    for (const auto& [best, shows] : {std::pair{"0", true}, {"4", true}, {"5", false}, {"1e9", false}, {"abc", true}}) {
+        World world;
+        world.set("0", best);
+        world.set("4", "1000");
+        world.open("r r b");
+        // A preview of another level's best score does not count.
+        world.sound.meanwhile = [&] { world.hover(world.control<QWidget>("Option1", 4)); };
+        world.finish();
+        EXPECT_EQ(world.control("Label7")->isVisible(), shows) << best;
+        world.command(2);
+        EXPECT_EQ(world.control("Label7")->isVisible(), shows) << "a reset leaves the panel as it is";
+    }
+}
+
+TEST(EndPanel, ShowsOncePerGameAndRunsAgainInTheNext) {
+    World world;
+    world.open("r r b");
+    for (int game = 0; game < 3; ++game) {
+        world.finish();
+        const auto* ball = world.control("ip");
+        const QPoint before = ball->pos();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ball->pos() != before; }));
+        world.command(0);
+        EXPECT_FALSE(world.control<QWidget>("Frame1")->isVisible());
+    }
+}
+
+}  // namespace
+}  // namespace mainwindow

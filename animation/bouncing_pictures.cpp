@@ -65,7 +65,11 @@ void BouncingPictures::advance(int passes) {
         pass(balls, platform::toTwips(field.width()), platform::toTwips(field.height()));
     }
     for (std::size_t k = 0; k < balls.size(); ++k) {
-        pictures[k]->move(platform::toPixels(balls[k].PosX), platform::toPixels(balls[k].PosY));
+        const QPoint place(platform::toPixels(balls[k].PosX), platform::toPixels(balls[k].PosY));
+        const QRect before = pictures[k]->geometry();
+        // One area for each ball is painted sooner than the corners of two.
+        field.update(before | QRect(place, before.size()));
+        pictures[k]->move(place);
     }
 }
 

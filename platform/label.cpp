@@ -39,15 +39,33 @@ void Label::paintEvent(QPaintEvent*) {
     if (sizedToText) {
         adjustSize();
     }
-    QPainter painter(this);
-    painter.setPen(palette().color(foregroundRole()));
-    if (wordWrap()) {
-        // Room for a line that begins with the one letter that reaches out of its place.
-        const int overhang = std::max(0, -painter.fontMetrics().leftBearing(u'j'));
-        painter.drawText(rect().adjusted(overhang, 0, -overhang, 0), static_cast<int>(alignment()) | Qt::TextWordWrap,
-                         text());
-        return;
+    const Look look{text(), font(), palette().color(foregroundRole()), size(), devicePixelRatioF()};
+    if (look != drawnAs) {
+        drawnAs = look;
+        drawn = draw();
     }
+    QPainter(this).drawPixmap(0, 0, drawn);
+}
+
+QPixmap Label::draw() const {
+    QPixmap picture(drawnAs.size * drawnAs.ratio);
+    picture.setDevicePixelRatio(drawnAs.ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setPen(drawnAs.colour);
+    painter.setFont(drawnAs.font);
+    wordWrap() ? drawParagraph(painter) : drawLine(painter);
+    return picture;
+}
+
+void Label::drawParagraph(QPainter& painter) const {
+    // Room for a line that begins with the one letter that reaches out of its place.
+    const int overhang = std::max(0, -painter.fontMetrics().leftBearing(u'j'));
+    painter.drawText(rect().adjusted(overhang, 0, -overhang, 0), static_cast<int>(alignment()) | Qt::TextWordWrap,
+                     text());
+}
+
+void Label::drawLine(QPainter& painter) const {
     painter.setFont(condensed(font(), text(), width()));
     painter.drawText(rect(), static_cast<int>(alignmentFor(*this, painter.fontMetrics())), text());
 }

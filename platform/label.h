@@ -23,7 +23,24 @@ class Label : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    /// All that the look of a text depends on.
+    struct Look {
+        QString text;
+        QFont font;
+        QColor colour;
+        QSize size;    ///< pixels
+        double ratio;  ///< device pixels to a pixel
+        bool operator==(const Look&) const = default;
+    };
+
+    QPixmap draw() const;
+    void drawParagraph(QPainter& painter) const;
+    void drawLine(QPainter& painter) const;
+
     bool sizedToText = false;
+    // The text as it was drawn last: laying it out anew would be most of the work while balls move behind it.
+    QPixmap drawn;
+    Look drawnAs{};
 };
 
 }  // namespace platform

@@ -21,13 +21,16 @@ inline int ink(const QPixmap& picture) {
 
 /// A label's text in a font, far from any edge.
 inline QPixmap unclipped(const QLabel& label, const QFont& font) {
-    QPixmap picture(800, 200);
-    picture.fill(platform::steelBlue);
-    QPainter painter(&picture);
+    QPixmap text(800, 200);
+    text.fill(Qt::transparent);
+    QPainter painter(&text);
     painter.setFont(font);
     painter.setPen(label.palette().color(QPalette::WindowText));
     const bool wraps = label.wordWrap();
     const QRect room(20, 20, label.width() + (wraps ? 0 : 400), 160);
     painter.drawText(room, static_cast<int>(label.alignment()) | (wraps ? Qt::TextWordWrap : 0), label.text());
+    QPixmap picture(text.size());
+    picture.fill(platform::steelBlue);
+    QPainter(&picture).drawPixmap(0, 0, text);
     return picture;
 }

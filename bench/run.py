@@ -85,15 +85,16 @@ def proportional_memory(process):
 
 
 def processor_time(process):
-    """User and system time of all threads, in seconds."""
-    fields = Path(f"/proc/{process.pid}/stat").read_text().rpartition(")")[2].split()
-    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+    """User and system time of all threads that still run, in seconds."""
+    tasks = Path(f"/proc/{process.pid}/task").iterdir()
+    return sum(int((task / "schedstat").read_text().split()[0]) for task in tasks) / 1e9
 
 
-def used_within(process, seconds):
-    before = processor_time(process)
+def used_within(seconds, *processes):
+    """The processor time that each of them takes meanwhile."""
+    before = [processor_time(process) for process in processes]
     time.sleep(seconds)
-    return processor_time(process) - before
+    return [processor_time(process) - start for process, start in zip(processes, before)]
 
 
 def print_ratio(what, measured, base, bound, unit="s", factor=1.0):
@@ -140,13 +141,29 @@ def memory_and_idleness(environment):
                 proportional_memory(game), proportional_memory(empty), 1.6, "MB")
     empty.terminate()
     time.sleep(6)
-    print(f"processor time of the idle game within 10 s: {used_within(game, 10):.2f} s")
+    print(f"processor time of the idle game within 10 s: {used_within(10, game)[0]:.2f} s")
     subprocess.run(["xdotool", "mousemove", "2400", "1500", "click", "--repeat", "5", "--delay", "400", "1"],
                    env=environment, check=True)
     time.sleep(10)
-    print(f"the same, from ten seconds after moves with sound: {used_within(game, 10):.2f} s")
+    print(f"the same, from ten seconds after moves with sound: {used_within(10, game)[0]:.2f} s")
     game.terminate()
     game.wait()
+
+
+def animations(environment, seconds=20):
+    def start(*arguments):
+        return subprocess.Popen([BUILD / "bin" / "animated_window", *arguments], env=environment)
+
+    for name, *size in (("about", "413", "344"), ("panel", "520", "534")):
+        processes = start(name), start("repainting", *size), start(name, "hidden")
+        time.sleep(3)
+        animated, repainting, hidden = used_within(seconds, *processes)
+        for process in processes:
+            process.terminate()
+            process.wait()
+        print_ratio(f"{name}, processor time within {seconds} s: animation / repainting as much",
+                    animated, repainting, 1.5, "ms", 1e3)
+        print(f"the same while it is hidden: {hidden:.2f} s")
 
 
 def main():
@@ -155,7 +172,7 @@ def main():
         environment = os.environ | {
             "DISPLAY": screen.name, "QT_QPA_PLATFORM": "xcb", "XDG_CONFIG_HOME": home, "XDG_RUNTIME_DIR": home,
             "DBUS_SESSION_BUS_ADDRESS": "disabled:", "SDL_AUDIODRIVER": "dummy"}
-        for measure in (rules, window, launches, memory_and_idleness):
+        for measure in (rules, window, launches, memory_and_idleness, animations):
             measure(environment)
 
 

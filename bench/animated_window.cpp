@@ -1,0 +1,134 @@
+// Shows one animation, or what the toolkit takes for as much: for measuring the processor time of it.
+//
+// Usage: animated_window panel|about|repainting WIDTH HEIGHT [hidden]
+
+#include <cstring>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTimer>
+
+#include "about/about.h"
+#include "mainwindow/balls.h"
+#include "mainwindow/boardgeometry.h"
+#include "platform/look.h"
+#include "rules/deal.h"
+#include "rules/move.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Silence : platform::Sound {
+    void warmUp() override {}
+    void play(const std::string&) override {}
+};
+
+struct NoHost : rules::Host {
+    void cellCleared(rules::CellIndex) override {}
+    void yield() override {}
+    void scoreChanged() override {}
+    void lastMoveChanged(std::string_view) override {}
+    void remainingChanged(std::string_view) override {}
+    void playWave(std::string_view) override {}
+    void boardSettled() override {}
+    void gameEnded() override {}
+};
+
+// A deal of two colours and the presses that end it: the first colour is pressed as long as it can be.
+struct EndingGame {
+    std::uint64_t seed = 0;
+    std::vector<rules::CellIndex> presses;
+
+    EndingGame(int NbCol, int NbLig) {
+        do {
+            ++seed;
+        } while (!ends(NbCol, NbLig));
+    }
+
+  private:
+    bool ends(int NbCol, int NbLig) {
+        rules::Game game;
+        rules::resizeBoard(game, NbCol, NbLig);
+        rules::deal(game, 0, rules::Random(seed));
+        presses.clear();
+        NoHost host;
+        while (const auto cell = choice(game.board)) {
+            presses.push_back(*cell);
+            rules::playMove(game, *cell, host);
+        }
+        return game.Total <= 1;
+    }
+
+    static std::optional<rules::CellIndex> choice(const rules::Board& board) {
+        std::optional<rules::CellIndex> found;
+        for (int i = 0; board.contains(i); ++i) {
+            const auto cell = static_cast<rules::CellIndex>(i);
+            if (rules::isGroup(board, i) && (!found || board[cell] == rules::codes[0])) {
+                found = cell;
+            }
+        }
+        return found;
+    }
+};
+
+// The window with the panel of a game that has ended.
+struct EndedGame {
+    EndingGame game{25, 25};
+    settings::Store store{QString()};
+    Silence silence;
+    mainwindow::balls window{{
+        store,
+        silence,
+        [this] { return game.seed; },
+        [](const QWidget&) {
+            return platform::Box{0, 0, 48'000, 36'000};
+        },
+        [](std::chrono::microseconds) {},
+    }};
+
+    EndedGame() {
+        for (const rules::CellIndex i : game.presses) {
+            const QPointF point = mainwindow::cellArea(window.currentGame().board, i).center();
+            QMouseEvent press(QEvent::MouseButtonPress, point, point, Qt::LeftButton, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(&window, &press);
+        }
+    }
+};
+
+// Repaints an empty area sixty times a second.
+struct RepaintingWindow : QWidget {
+    QTimer timer;
+
+    RepaintingWindow(int width, int height) : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
+        setFixedSize(width, height);
+        timer.setTimerType(Qt::PreciseTimer);
+        timer.callOnTimeout(this, [this] { update(); });
+        timer.start(std::chrono::milliseconds(1000) / 60);
+    }
+};
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    const QApplication application(argc, argv);
+    platform::applyLook();
+    std::unique_ptr<EndedGame> ended;
+    std::unique_ptr<QWidget> other;
+    const std::string_view which = argc > 1 ? argv[1] : "";
+    if (which == "panel") {
+        ended = std::make_unique<EndedGame>();
+    } else if (which == "about") {
+        other = std::make_unique<about::About>(platform::Box{0, 0, 15'000, 12'000}, rules::Random(1), [] {});
+    } else if (which == "repainting" && argc > 3) {
+        other = std::make_unique<RepaintingWindow>(std::atoi(argv[2]), std::atoi(argv[3]));
+    } else {
+        return 1;
+    }
+    QWidget& window = ended ? ended->window : *other;
+    window.show();
+    if (std::strcmp(argv[argc - 1], "hidden") == 0) {
+        QTimer::singleShot(std::chrono::seconds(1), &window, &QWidget::hide);
+    }
+    return QApplication::exec();
+}

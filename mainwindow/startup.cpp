@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QRadioButton>
 
+#include "about/about.h"
 #include "mainwindow/balls.h"
 #include "platform/text_box.h"
 #include "settings/number.h"
@@ -64,6 +65,8 @@ void balls::closeEvent(QCloseEvent* event) {
         return;
     }
     Form_Unload();
+    // The toolkit would close it too, and this window would come back for a moment.
+    About.reset();
     event->accept();
     QCoreApplication::quit();
 }

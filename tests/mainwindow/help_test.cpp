@@ -70,6 +70,7 @@ TEST(Help, ClosingTheGameMeanwhileStoresItsSettings) {
     world.type("17", "19");
     QTest::mousePress(world.control("Image1"), Qt::LeftButton);
     world.window->close();
+    EXPECT_TRUE(aboutWindows().empty()) << "left to the toolkit, it would bring the game back";
     EXPECT_EQ(world.stored("Col"), "17");
     EXPECT_EQ(world.stored("Lig"), "19");
 }

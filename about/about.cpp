@@ -40,9 +40,8 @@ About::About(const platform::Box& screen, const animation::Draw& draw, std::func
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFixedSize(background.size());
-    const platform::Box size{0, 0, platform::toTwips(width()), platform::toTwips(height())};
-    move(platform::toPixels(screen.Left + (screen.Width - size.Width) / 2),
-         platform::toPixels(screen.Top + (screen.Height - size.Height) / 2));
+    move(platform::toPixels(screen.Left + (screen.Width - platform::toTwips(width())) / 2),
+         platform::toPixels(screen.Top + (screen.Height - platform::toTwips(height())) / 2));
     platform::buildControls(controls(), *this, assets::picture);
     for (int k = 0; auto& label : Label1) {
         label = platform::control<platform::Label>(*this, "Label1", k);
@@ -55,11 +54,11 @@ About::About(const platform::Box& screen, const animation::Draw& draw, std::func
         platform::onMove(*label, [this, k] { Label2_MouseMove(k); });
         ++k;
     }
-    Form_Load(draw);
+    AnimateAbout(draw);
 }
 
-void About::Form_Load(const animation::Draw& draw) {
-    balls = new animation::BouncingPictures(*this);
+void About::AnimateAbout(const animation::Draw& draw) {
+    auto* balls = new animation::BouncingPictures(*this);
     balls->start(draw);
 }
 

@@ -33,7 +33,7 @@ class About : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void Form_Load(const animation::Draw& draw);
+    void AnimateAbout(const animation::Draw& draw);
     void Form_MouseMove();
     void Label1_MouseMove(int Index);
     void Label2_MouseMove(int Index);
@@ -42,7 +42,6 @@ class About : public QWidget {
     QPixmap background;
     std::array<platform::Label*, 3> Label1{};
     std::array<platform::Label*, 6> Label2{};
-    animation::BouncingPictures* balls = nullptr;
 };
 
 }  // namespace about

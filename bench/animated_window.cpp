@@ -9,31 +9,14 @@
 #include <QTimer>
 
 #include "about/about.h"
-#include "mainwindow/balls.h"
+#include "bench/idle_host.h"
+#include "bench/quiet_window.h"
 #include "mainwindow/boardgeometry.h"
 #include "platform/look.h"
 #include "rules/deal.h"
 #include "rules/move.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
-
-struct Silence : platform::Sound {
-    void warmUp() override {}
-    void play(const std::string&) override {}
-};
-
-struct NoHost : rules::Host {
-    void cellCleared(rules::CellIndex) override {}
-    void yield() override {}
-    void scoreChanged() override {}
-    void lastMoveChanged(std::string_view) override {}
-    void remainingChanged(std::string_view) override {}
-    void playWave(std::string_view) override {}
-    void boardSettled() override {}
-    void gameEnded() override {}
-};
 
 // A deal of two colours and the presses that end it: the first colour is pressed as long as it can be.
 struct EndingGame {
@@ -52,7 +35,7 @@ struct EndingGame {
         rules::resizeBoard(game, NbCol, NbLig);
         rules::deal(game, 0, rules::Random(seed));
         presses.clear();
-        NoHost host;
+        IdleHost host;
         while (const auto cell = choice(game.board)) {
             presses.push_back(*cell);
             rules::playMove(game, *cell, host);
@@ -75,23 +58,13 @@ struct EndingGame {
 // The window with the panel of a game that has ended.
 struct EndedGame {
     EndingGame game{25, 25};
-    settings::Store store{QString()};
-    Silence silence;
-    mainwindow::balls window{{
-        store,
-        silence,
-        [this] { return game.seed; },
-        [](const QWidget&) {
-            return platform::Box{0, 0, 48'000, 36'000};
-        },
-        [](std::chrono::microseconds) {},
-    }};
+    QuietWindow window{25, 25, {0, 0, 48'000, 36'000}, [this] { return game.seed; }};
 
     EndedGame() {
         for (const rules::CellIndex i : game.presses) {
-            const QPointF point = mainwindow::cellArea(window.currentGame().board, i).center();
+            const QPointF point = mainwindow::cellArea(window->currentGame().board, i).center();
             QMouseEvent press(QEvent::MouseButtonPress, point, point, Qt::LeftButton, Qt::LeftButton, {});
-            QCoreApplication::sendEvent(&window, &press);
+            QCoreApplication::sendEvent(&*window, &press);
         }
     }
 };
@@ -99,12 +72,16 @@ struct EndedGame {
 // Repaints an empty area sixty times a second.
 struct RepaintingWindow : QWidget {
     QTimer timer;
+    int frames = 0;
 
     RepaintingWindow(int width, int height) : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
         setFixedSize(width, height);
         timer.setTimerType(Qt::PreciseTimer);
-        timer.callOnTimeout(this, [this] { update(); });
-        timer.start(std::chrono::milliseconds(1000) / 60);
+        timer.callOnTimeout(this, [this] {
+            update();
+            timer.setInterval(++frames % 3 == 0 ? 16 : 17);  // three frames in 50 ms
+        });
+        timer.start(16);
     }
 };
 
@@ -125,7 +102,7 @@ int main(int argc, char* argv[]) {
     } else {
         return 1;
     }
-    QWidget& window = ended ? ended->window : *other;
+    QWidget& window = ended ? *ended->window : *other;
     window.show();
     if (std::strcmp(argv[argc - 1], "hidden") == 0) {
         QTimer::singleShot(std::chrono::seconds(1), &window, &QWidget::hide);

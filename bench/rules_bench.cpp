@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/idle_host.h"
 #include "rules/deal.h"
 #include "rules/move.h"
 #include "rules/settle.h"
@@ -35,17 +36,6 @@ void settling(benchmark::State& state) {
 }
 BENCHMARK(settling<plain::settle>)->Name("settle plain")->Args({32, 1000});
 BENCHMARK(settling<rules::settle>)->Name("settle")->Args({32, 1000})->Args({25, 25})->Args({217, 151});
-
-struct IdleHost : rules::Host {
-    void cellCleared(rules::CellIndex) override {}
-    void yield() override {}
-    void scoreChanged() override {}
-    void lastMoveChanged(std::string_view) override {}
-    void remainingChanged(std::string_view) override {}
-    void playWave(std::string_view) override {}
-    void boardSettled() override {}
-    void gameEnded() override {}
-};
 
 void removing(benchmark::State& state) {
     Board board = rules::emptyBoard(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));

@@ -79,9 +79,10 @@ void balls::mousePressEvent(QMouseEvent* event) {
     }
 }
 
+// While a button is held, the pointer belongs to the cell or piece of the border that it was pressed on.
 void balls::mouseMoveEvent(QMouseEvent* event) {
     const QPoint point = event->position().toPoint();
-    if (!frame.contains(point) && !cellAt(game.board, point)) {
+    if (event->buttons() == Qt::NoButton && !frame.contains(point) && !cellAt(game.board, point)) {
         Form_MouseMove();
     }
 }

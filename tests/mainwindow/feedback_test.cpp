@@ -52,6 +52,10 @@ TEST(Feedback, OnlyTheBackgroundOfTheWindowAnswersTheMouse) {
         EXPECT_EQ(world.text("Label4"), answers ? "0" : "40") << what;
     }
     world.hover(world.control("LabBtn", 1));
+    const QPoint background(20, 40);
+    QMouseEvent held(QEvent::MouseMove, background, background, Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(world.window.get(), &held);
+    EXPECT_EQ(lit(world), "1") << "a button is held that was pressed on a cell";
     world.press(0);
     EXPECT_EQ(lit(world), "") << "a press on a cell";
 }

@@ -5,9 +5,9 @@
 #include <QEvent>
 #include <QWindow>
 
+#include "platform/controls.h"
 #include "platform/twips.h"
 
-using namespace Qt::StringLiterals;
 using Clock = std::chrono::steady_clock;
 
 namespace animation {
@@ -21,8 +21,8 @@ bool isOnScreen(const QWidget& widget) {
 }  // namespace
 
 BouncingPictures::BouncingPictures(QWidget& where) : QObject(&where), field(where) {
-    std::ranges::transform(std::array{u"ip"_s, u"ir"_s, u"iv"_s, u"ig"_s, u"ib"_s, u"ij"_s}, pictures.begin(),
-                           [&](const QString& name) { return field.findChild<QWidget*>(name); });
+    std::ranges::transform(std::array{"ip", "ir", "iv", "ig", "ib", "ij"}, pictures.begin(),
+                           [&](const char* name) { return platform::control<QWidget>(field, name); });
     timer.setSingleShot(true);
     timer.setTimerType(Qt::PreciseTimer);
     connect(&timer, &QTimer::timeout, this, &BouncingPictures::showFrame);
@@ -40,9 +40,10 @@ void BouncingPictures::stop() {
     timer.stop();
 }
 
-// What comes back on screen is painted: then it is time to go on.
+// Of a field that comes back on screen only its window may hear: nothing of it needs to be painted anew.
 bool BouncingPictures::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Paint && pace && !timer.isActive()) {
+    const bool shown = event->type() == QEvent::Show || event->type() == QEvent::Expose;
+    if (shown && pace && !timer.isActive()) {
         run();
     }
     return QObject::eventFilter(watched, event);
@@ -57,6 +58,8 @@ void BouncingPictures::showFrame() {
     if (isOnScreen(field)) {
         advance(pace->passesDue(Clock::now()));
         waitForNextFrame();
+    } else if (QWindow* window = field.window()->windowHandle()) {
+        window->installEventFilter(this);
     }
 }
 

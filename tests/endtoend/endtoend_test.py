@@ -166,6 +166,14 @@ class EndToEnd(unittest.TestCase):
                 self.assertEqual(player.geometry(), place)
                 self.assertEqual(player.board(), board)
             about = player.open_about()
+            for _ in range(3):
+                player.desktop.xdotool("windowminimize", about)
+                wait_for("the icon", lambda: not player.visible())
+                player.desktop.xdotool("windowactivate", about)
+                player.expect_window("the About window", lambda window: window == about)
+                time.sleep(0.3)  # until all of it is painted
+                still = player.look((0, 0), (413, 344), about)
+                wait_for("bouncing balls", lambda: (player.look((0, 0), (413, 344), about) != still).any())
             player.act(MAIL, "click", 3, "click", 1, window=about)
             wait_for("a mail", player.desktop.opened.exists)
             player.act(SITE, "click", 1, window=about)

@@ -63,9 +63,9 @@ class Player:
         said = self.desktop.xdotool("getwindowgeometry", "--shell", window or self.window)
         return tuple(map(int, re.findall(r"(?:X|Y|WIDTH|HEIGHT)=(-?\d+)", said)))
 
-    def look(self, start, end):
+    def look(self, start, end, window=None):
         """The pixels by row and column between two places in the window."""
-        left, top, _, _ = self.geometry()
+        left, top, _, _ = self.geometry(window)
         area = (left + start[0], top + start[1], left + end[0], top + end[1])
         return np.array(self.desktop.screenshot(area).convert("RGB"))
 

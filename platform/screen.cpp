@@ -3,11 +3,13 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 namespace platform {
 
 Box screenOf(const QWidget& window) {
-    const QScreen* screen = window.isVisible() ? window.screen() : QGuiApplication::primaryScreen();
+    const QWindow* shown = window.windowHandle();
+    const QScreen* screen = shown != nullptr ? shown->screen() : QGuiApplication::primaryScreen();
     if (screen == nullptr) {
         return {};
     }

@@ -6,7 +6,10 @@
 namespace platform {
 
 void openAddress(const QString& address) {
+    // Where nothing opens it, the toolkit would say so on standard error.
+    const QtMessageHandler usual = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     QDesktopServices::openUrl(QUrl(address));
+    qInstallMessageHandler(usual);
 }
 
 }  // namespace platform

@@ -69,7 +69,7 @@ class Drag : public QObject {
 }  // namespace
 
 void dragWindow(QWidget& control, const QMouseEvent& press) {
-    if (QGuiApplication::platformName() == u"wayland"_s) {
+    if (QGuiApplication::platformName().startsWith(u"wayland"_s)) {
         control.window()->windowHandle()->startSystemMove();
     } else {
         new Drag(control, press);

@@ -1,7 +1,5 @@
 // The About window, which takes the place of the main window while it is open.
 
-#include <QApplication>
-
 #include "about/about.h"
 #include "mainwindow/balls.h"
 #include "rules/random.h"
@@ -13,7 +11,7 @@ void balls::Image1_MouseDown() {
 }
 
 void balls::openAbout() {
-    if (About != nullptr) {
+    if (About != nullptr || closing) {
         return;
     }
     // Asked for while this window still stands on it.

@@ -4,10 +4,10 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
 
 #include "about/layout.h"
+#include "animation/bouncing_pictures.h"
 #include "assets/pictures.h"
 #include "platform/address.h"
 #include "platform/label.h"

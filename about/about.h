@@ -1,11 +1,11 @@
 #pragma once
 
+#include <array>
 #include <functional>
-#include <span>
 
 #include <QWidget>
 
-#include "animation/bouncing_pictures.h"
+#include "animation/bounce.h"
 #include "platform/twips.h"
 
 namespace platform {

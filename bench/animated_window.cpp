@@ -2,7 +2,10 @@
 //
 // Usage: animated_window panel|about|repainting WIDTH HEIGHT [hidden]
 
+#include <cstdlib>
 #include <cstring>
+#include <memory>
+#include <optional>
 
 #include <QApplication>
 #include <QMouseEvent>

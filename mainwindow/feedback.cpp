@@ -26,6 +26,7 @@ void balls::connectMouse() {
         platform::onMove(*option, [this, i] { Option1_MouseMove(i); });
         ++i;
     }
+    // l1_MouseDown and l1_MouseMove, and those of Label2, Label3, Label4 and sc, are all alike.
     auto* Label2 = platform::control<platform::Label>(*this, "Label2");
     for (platform::Label* label : {l1[0], l1[3], Label2, Label3, Label4, sc}) {
         platform::onPress(*label, [label](const QMouseEvent& press) { platform::dragWindow(*label, press); });

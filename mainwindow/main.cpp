@@ -1,7 +1,6 @@
 #include <filesystem>
 
 #include <QApplication>
-#include <QDir>
 #include <QIcon>
 
 #include "assets/pictures.h"

@@ -32,7 +32,7 @@ TEST(EndPanel, LineShowsWhenTheBestScoreIsReached) {
     }
 }
 
-TEST(EndPanel, ShowsOncePerGameAndRunsAgainInTheNext) {
+TEST(EndPanel, RunsAgainInTheNextGame) {
     World world;
     world.open("r r b");
     for (int game = 0; game < 3; ++game) {

@@ -4,7 +4,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QPainter>
+#include <QPaintEvent>
 
 #include "about/layout.h"
 #include "animation/bouncing_pictures.h"
@@ -12,6 +12,7 @@
 #include "platform/address.h"
 #include "platform/label.h"
 #include "platform/mouse.h"
+#include "platform/pixel_painter.h"
 
 using namespace Qt::StringLiterals;
 
@@ -108,10 +109,7 @@ void About::mouseMoveEvent(QMouseEvent*) {
 }
 
 void About::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    for (const QRect& area : event->region()) {
-        painter.drawPixmap(area, background, area);
-    }
+    platform::PixelPainter(*this).draw({}, background, event->region());
 }
 
 }  // namespace about

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "animation/bounce.h"
+#include "platform/artwork.h"
 #include "platform/twips.h"
 
 namespace platform {
@@ -39,7 +40,7 @@ class About : public QWidget {
     void Label2_MouseMove(int Index);
 
     std::function<void()> closed;
-    QPixmap background;
+    platform::Artwork background;
     std::array<platform::Label*, 3> Label1{};
     std::array<platform::Label*, 6> Label2{};
 };

@@ -1,6 +1,12 @@
 #include "assets/pictures.h"
 
+#include <algorithm>
+#include <array>
+
+#include <QFile>
 #include <QFileInfo>
+
+#include "platform/vector.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,11 +16,57 @@ static void ensureResources() {
 }
 
 namespace assets {
+namespace {
 
-QPixmap picture(const QString& name) {
+/// What a picture is drawn from: the place of its part in a vector drawing, in the drawing's pixels.
+struct Source {
+    QLatin1String name;
+    const char* drawing;
+    QPoint place{};
+    const char* style = nullptr;
+    bool turned = false;  ///< half round
+};
+
+constexpr auto sources = std::to_array<Source>({
+    {"ir"_L1, "ball.svg", {}, "ir.css"}, {"ib"_L1, "ball.svg", {}, "ib.css"},
+    {"iv"_L1, "ball.svg", {}, "iv.css"}, {"ij"_L1, "ball.svg", {}, "ij.css"},
+    {"ip"_L1, "ball.svg", {}, "ip.css"}, {"ig"_L1, "ball.svg", {}, "ig.css"},
+    {"button-normal"_L1, "button.svg"},  {"button-hover"_L1, "button.svg", {}, nullptr, true},
+    {"HG"_L1, "frame.svg", {0, 0}},      {"H"_L1, "frame.svg", {16, 0}},
+    {"HD"_L1, "frame.svg", {32, 0}},     {"G"_L1, "frame.svg", {0, 16}},
+    {"D"_L1, "frame.svg", {32, 16}},     {"BG"_L1, "frame.svg", {0, 32}},
+    {"B"_L1, "frame.svg", {16, 32}},     {"BD"_L1, "frame.svg", {32, 32}},
+    {"about"_L1, "about.svg"},           {"help"_L1, "help.svg"},
+    {"zampotine"_L1, "zampotine.svg"},
+});
+
+QByteArray contents(const char* source) {
+    QFile file(u":/sources/%1"_s.arg(QLatin1String(source)));
+    return source != nullptr && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QImage draw(const QString& name, QSize natural, QSize pixels) {
+    const auto* const source = std::ranges::find(sources, name, &Source::name);
+    if (source == sources.end()) {
+        return {};
+    }
+    const platform::VectorPart part{contents(source->drawing), contents(source->style), {source->place, natural}};
+    const QImage image = platform::drawVector(part, pixels);
+    return source->turned ? image.mirrored(true, true) : image;
+}
+
+}  // namespace
+
+platform::Artwork picture(const QString& name) {
     ensureResources();
+    const QFileInfo file(name);
     // Named by its suffix, the format is not looked for in every plugin that there is.
-    return {u":/pictures/"_s + name, QFileInfo(name).suffix().toLatin1().constData()};
+    const QPixmap natural(u":/pictures/"_s + name, file.suffix().toLatin1().constData());
+    if (natural.isNull()) {
+        return {};
+    }
+    return {natural,
+            [base = file.baseName(), size = natural.size()](QSize pixels) { return draw(base, size, pixels); }};
 }
 
 }  // namespace assets

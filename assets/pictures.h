@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QPixmap>
 #include <QString>
+
+#include "platform/artwork.h"
 
 namespace assets {
 
-/// A picture of the program by its file name ("ir.gif"), at its natural size; an empty one if there is none
-/// of that name.
-QPixmap picture(const QString& name);
+/// A picture of the program by its file name ("ir.gif"); none if there is no such file.
+platform::Artwork picture(const QString& name);
 
 }  // namespace assets

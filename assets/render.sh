@@ -8,20 +8,9 @@ field='rgb(128,160,192)' # the steel blue on which the cut-out pictures stand
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# name, then the colours: lit side, body, shaded rim. colour_table.py guards them: they
-# differ in lightness as well as in hue, for players who confuse hues.
-balls='
-ir  #f56c2f #db000f #8b0002
-ib  #2d88e3 #063cde #190089
-iv  #7ae371 #3ac059 #006630
-ij  #fff781 #ffe000 #cd8300
-ip  #ff92f6 #ef4ee7 #8c049e
-ig  #86909f #4c5766 #1f252e
-'
-
-# render SOURCE WIDTH HEIGHT [CSS] writes a smooth PNG, averaged down from eight times the size.
+# render SOURCE WIDTH HEIGHT [STYLE] writes a smooth PNG, averaged down from eight times the size.
 render() {
-    rsvg-convert --width $(($2 * 8)) --height $(($3 * 8)) --stylesheet <(echo "${4-}") "sources/$1.svg" |
+    rsvg-convert --width $(($2 * 8)) --height $(($3 * 8)) --stylesheet "${4-/dev/null}" "sources/$1.svg" |
         convert png:- -scale 12.5% -depth 8 -strip png:-
 }
 
@@ -33,11 +22,11 @@ cut_out() {
         -compose CopyOpacity -composite +dither -colors "$1" -depth 8 png:-
 }
 
-while read -r name light body shade; do
-    [[ -n $name ]] || continue
-    render ball 20 20 ".light{stop-color:$light} .body{stop-color:$body} .shade{stop-color:$shade}" |
-        cut_out 256 | convert png:- +dither "pictures/$name.gif"
-done <<<"$balls"
+# colour_table.py guards the colours of the balls: they differ in lightness as well as in hue, for players who confuse
+# hues.
+for ball in ir ib iv ij ip ig; do
+    render ball 20 20 "sources/$ball.css" | cut_out 256 | convert png:- +dither "pictures/$ball.gif"
+done
 
 render button 76 20 | cut_out 256 >"$work/button.png"
 convert "$work/button.png" +dither pictures/button-normal.gif

@@ -6,7 +6,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPaintEvent>
-#include <QPainter>
 #include <QRadioButton>
 
 #include "about/about.h"
@@ -15,6 +14,8 @@
 #include "platform/controls.h"
 #include "platform/label.h"
 #include "platform/mouse.h"
+#include "platform/picture_box.h"
+#include "platform/pixel_painter.h"
 #include "platform/text_box.h"
 
 using namespace Qt::StringLiterals;
@@ -49,10 +50,10 @@ void balls::bindControls() {
     l1[0] = platform::control<platform::Label>(*this, "l1", 0);
     l1[3] = platform::control<platform::Label>(*this, "l1", 3);
     for (int k = 0; auto& face : BTN) {
-        face = platform::control<QLabel>(*this, "BTN", k++);
+        face = platform::control<platform::PictureBox>(*this, "BTN", k++);
     }
     for (int k = 0; auto& button : ImBTN) {
-        button = platform::control<QLabel>(*this, "ImBTN", k++);
+        button = platform::control<platform::PictureBox>(*this, "ImBTN", k++);
     }
     for (int k = 0; auto& box : Text1) {
         box = platform::control<platform::TextBox>(*this, "Text1", k++);
@@ -83,7 +84,7 @@ void balls::connectControls() {
         });
         ++k;
     }
-    platform::onPress(*platform::control<QLabel>(*this, "Image1"), [this](const QMouseEvent&) { Image1_MouseDown(); });
+    platform::onPress(*platform::control<QWidget>(*this, "Image1"), [this](const QMouseEvent&) { Image1_MouseDown(); });
     platform::onClick(*Frame1, [this] { Frame1_Click(); });
     // The session may end without closing the window first.
     connect(qApp, &QGuiApplication::commitDataRequest, this, &balls::Form_Unload);
@@ -97,7 +98,7 @@ void balls::connectControls() {
 }
 
 void balls::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
+    platform::PixelPainter painter(*this);
     for (const QRect& area : event->region()) {
         c.draw(painter, game.board, area);
     }

@@ -21,7 +21,6 @@
 #include "settings/store.h"
 
 class QCheckBox;
-class QLabel;
 class QRadioButton;
 
 namespace about {
@@ -30,6 +29,7 @@ class About;
 
 namespace platform {
 class Label;
+class PictureBox;
 class TextBox;
 }  // namespace platform
 
@@ -164,8 +164,8 @@ class balls : public QWidget, private rules::Host {
     platform::Label* Label3 = nullptr;
     platform::Label* Label4 = nullptr;
     platform::Label* Label7 = nullptr;
-    std::array<QLabel*, 2> BTN{};
-    std::array<QLabel*, 3> ImBTN{};
+    std::array<platform::PictureBox*, 2> BTN{};
+    std::array<platform::PictureBox*, 3> ImBTN{};
     std::array<platform::TextBox*, 2> Text1{};
     std::array<QRadioButton*, 5> Option1{};
     std::array<platform::Label*, 5> hsc{};

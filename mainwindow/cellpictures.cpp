@@ -52,7 +52,7 @@ void CellPictures::showAll(const rules::Board& board) {
     }
 }
 
-void CellPictures::draw(QPainter& painter, const rules::Board& board, const QRect& area) const {
+void CellPictures::draw(platform::PixelPainter& painter, const rules::Board& board, const QRect& area) const {
     const QRect cells = cellsTouching(board, area);
     for (int col = cells.left(); col <= cells.right(); ++col) {
         for (int row = cells.top(); row <= cells.bottom(); ++row) {

@@ -25,11 +25,12 @@ class CellPictures {
     void showAll(const rules::Board& board);
 
     /// Draws the cells that an area of the window touches, in pixels.
-    void draw(QPainter& painter, const rules::Board& board, const QRect& area) const;
+    void draw(platform::PixelPainter& painter, const rules::Board& board, const QRect& area) const;
 
   private:
     std::vector<platform::Picture> c;
-    std::array<QPixmap, 1 + rules::codes.size()> images;  // of the empty cell, then of the colours in their order
+    std::array<platform::Artwork, 1 + rules::codes.size()>
+        images;  // of the empty cell, then of the colours in their order
 };
 
 }  // namespace mainwindow

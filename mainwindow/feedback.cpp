@@ -11,13 +11,14 @@
 #include "platform/drag.h"
 #include "platform/label.h"
 #include "platform/mouse.h"
+#include "platform/picture_box.h"
 
 namespace mainwindow {
 
 void balls::connectMouse() {
     setMouseTracking(true);
     platform::onMove(*Frame2, [this] { Frame2_MouseMove(); });
-    for (int i = 0; QLabel * button : ImBTN) {
+    for (int i = 0; platform::PictureBox * button : ImBTN) {
         platform::onMove(*button, [this, i] { ImBTN_MouseMove(i); });
         platform::onMove(*platform::control<QLabel>(*this, "LabBtn", i), [this, i] { LabBtn_MouseMove(i); });
         ++i;
@@ -62,8 +63,8 @@ void balls::LabBtn_MouseMove(int Index) {
 }
 
 void balls::highlight(int i) {
-    for (int k = 0; QLabel * button : ImBTN) {
-        button->setPixmap(BTN[k++ == i ? 1 : 0]->pixmap());
+    for (int k = 0; platform::PictureBox * button : ImBTN) {
+        button->setPicture(BTN[k++ == i ? 1 : 0]->picture());
     }
 }
 

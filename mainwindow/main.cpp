@@ -23,6 +23,12 @@ std::vector<std::filesystem::path> soundFolders() {
     return {".", program, program / ".." / "share" / "zampotine" / "sounds"};
 }
 
+// In the pixels of the finest screen.
+QIcon windowIcon() {
+    const platform::Artwork picture = assets::picture(u"zampotine.ico"_s);
+    return {picture.inPixels(picture.size() * qApp->devicePixelRatio())};
+}
+
 }  // namespace
 
 int main(int, char* argv[]) {
@@ -33,7 +39,7 @@ int main(int, char* argv[]) {
     QApplication::setApplicationDisplayName(u"Zampotine"_s);
     QApplication::setApplicationVersion(QStringLiteral(ZAMPOTINE_VERSION));
     QGuiApplication::setDesktopFileName(u"zampotine"_s);
-    QApplication::setWindowIcon(QIcon(assets::picture(u"zampotine.ico"_s)));
+    QApplication::setWindowIcon(windowIcon());
     // Only the main window ends the program, also while it is hidden behind another one.
     QApplication::setQuitOnLastWindowClosed(false);
     platform::applyLook();

@@ -76,7 +76,7 @@ void PictureFrame::forEachPiece(Visit visit) const {
     }
 }
 
-void PictureFrame::draw(QPainter& painter) const {
+void PictureFrame::draw(platform::PixelPainter& painter) const {
     forEachPiece([&](const Picture& picture) { platform::draw(painter, picture); });
 }
 

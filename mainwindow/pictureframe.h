@@ -20,7 +20,7 @@ class PictureFrame {
     void rebuild(int W, int Ht);
 
     /// Draws the border; the corners lie in front of the edges.
-    void draw(QPainter& painter) const;
+    void draw(platform::PixelPainter& painter) const;
 
     /// Whether a point of the window, in pixels, lies on the border.
     bool contains(QPoint point) const;

@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 . packaging/steps.sh
 
 declare -A packages=(
-    [build]='g++ cmake ninja-build qt6-base-dev libsdl2-dev'
+    [build]='g++ cmake ninja-build pkgconf qt6-base-dev libsdl2-dev librsvg2-dev'
     [game]='fonts-liberation x11-utils'
     [wayland]='qt6-wayland wayland-utils'
     [screen]='xvfb openbox xdotool x11-utils imagemagick'

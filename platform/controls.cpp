@@ -3,10 +3,11 @@
 #include <algorithm>
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QRadioButton>
 
 #include "platform/label.h"
+#include "platform/outline.h"
+#include "platform/picture_box.h"
 #include "platform/text_box.h"
 
 using namespace Qt::StringLiterals;
@@ -14,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace platform {
 namespace {
 
-QLabel* createLabel(const ControlRow& row, QWidget& parent) {
+Label* createLabel(const ControlRow& row, QWidget& parent) {
     auto* label = new Label(QString::fromUtf8(row.text), &parent);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(row.align | Qt::AlignTop);
@@ -23,24 +24,14 @@ QLabel* createLabel(const ControlRow& row, QWidget& parent) {
     return label;
 }
 
-QLabel* createPicture(const ControlRow& row, QWidget& parent, const PictureSource& picture) {
-    auto* control = new QLabel(&parent);
-    control->setPixmap(picture(QString::fromLatin1(row.picture)));
-    return control;
+QWidget* createPicture(const ControlRow& row, QWidget& parent, const PictureSource& picture) {
+    return new PictureBox(picture(QString::fromLatin1(row.picture)), &parent);
 }
 
 QWidget* createFrame(QWidget& parent) {
     auto* frame = new QWidget(&parent);
     frame->setAutoFillBackground(true);
     return frame;
-}
-
-// An outline alone: what lies under it takes the mouse.
-QFrame* createShape(QWidget& parent) {
-    auto* shape = new QFrame(&parent);
-    shape->setFrameStyle(QFrame::Box | QFrame::Plain);
-    shape->setAttribute(Qt::WA_TransparentForMouseEvents);
-    return shape;
 }
 
 QWidget* createWidget(const ControlRow& row, QWidget& parent, const PictureSource& picture) {
@@ -56,7 +47,7 @@ QWidget* createWidget(const ControlRow& row, QWidget& parent, const PictureSourc
         case Kind::textBox:
             return new TextBox(QString::fromUtf8(row.text), &parent);
         case Kind::shape:
-            return createShape(parent);
+            return new Outline(&parent);
         default:
             return createFrame(parent);
     }

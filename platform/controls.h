@@ -3,9 +3,9 @@
 #include <functional>
 #include <span>
 
-#include <QPixmap>
 #include <QWidget>
 
+#include "platform/artwork.h"
 #include "platform/look.h"
 #include "platform/twips.h"
 
@@ -32,7 +32,7 @@ struct ControlRow {
 };
 
 /// Finds a picture by its file name.
-using PictureSource = std::function<QPixmap(const QString& name)>;
+using PictureSource = std::function<Artwork(const QString& name)>;
 
 /// Creates the controls of a window or frame inside it, each under its controlName(). The rows stand front to back:
 /// each control covers those after it where they overlap.

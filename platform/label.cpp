@@ -5,6 +5,8 @@
 #include <QFontMetrics>
 #include <QPainter>
 
+#include "platform/pixel_painter.h"
+
 namespace platform {
 namespace {
 
@@ -39,19 +41,21 @@ void Label::paintEvent(QPaintEvent*) {
     if (sizedToText) {
         adjustSize();
     }
-    const Look look{text(), font(), palette().color(foregroundRole()), size(), devicePixelRatioF()};
+    PixelPainter painter(*this);
+    const Look look{text(), font(), palette().color(foregroundRole()), painter.pixels(rect()).size(),
+                    devicePixelRatioF()};
     if (look != drawnAs) {
         drawnAs = look;
         drawn = draw();
     }
-    QPainter(this).drawPixmap(0, 0, drawn);
+    painter.draw({}, drawn);
 }
 
 QPixmap Label::draw() const {
-    QPixmap picture(drawnAs.size * drawnAs.ratio);
-    picture.setDevicePixelRatio(drawnAs.ratio);
+    QPixmap picture(drawnAs.size);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
+    painter.scale(drawnAs.ratio, drawnAs.ratio);
     painter.setPen(drawnAs.colour);
     painter.setFont(drawnAs.font);
     wordWrap() ? drawParagraph(painter) : drawLine(painter);

@@ -28,7 +28,7 @@ class Label : public QLabel {
         QString text;
         QFont font;
         QColor colour;
-        QSize size;    ///< pixels
+        QSize size;    ///< pixels of the screen
         double ratio;  ///< device pixels to a pixel
         bool operator==(const Look&) const = default;
     };

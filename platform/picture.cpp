@@ -1,7 +1,6 @@
 #include "platform/picture.h"
 
-#include <QPainter>
-
+#include "platform/pixel_painter.h"
 #include "platform/twips.h"
 
 namespace platform {
@@ -10,9 +9,9 @@ QRect Picture::area() const {
     return {QPoint(toPixels(Left), toPixels(Top)), image.size()};
 }
 
-void draw(QPainter& painter, const Picture& picture) {
-    if (picture.Visible && !picture.image.isNull()) {
-        painter.drawPixmap(toPixels(picture.Left), toPixels(picture.Top), picture.image);
+void draw(PixelPainter& painter, const Picture& picture) {
+    if (picture.Visible && !picture.image.size().isEmpty()) {
+        painter.draw(picture.area().topLeft(), picture.image);
     }
 }
 

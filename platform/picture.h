@@ -1,24 +1,25 @@
 #pragma once
 
-#include <QPixmap>
 #include <QRect>
 
-class QPainter;
+#include "platform/artwork.h"
 
 namespace platform {
+
+class PixelPainter;
 
 /// A picture control that its window paints: an element of a control array too large for widgets of its own.
 struct Picture {
     int Left = 0;  ///< twips, inside the window
     int Top = 0;   ///< twips, inside the window
     bool Visible = false;
-    QPixmap image;
+    Artwork image;
 
-    /// The area it covers, in pixels: the size of its image.
+    /// The area it covers, in pixels: the natural size of its image.
     QRect area() const;
 };
 
 /// Draws a picture at its place, unless it is hidden or has no image.
-void draw(QPainter& painter, const Picture& picture);
+void draw(PixelPainter& painter, const Picture& picture);
 
 }  // namespace platform

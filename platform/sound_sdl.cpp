@@ -1,22 +1,15 @@
 #include "platform/sound_sdl.h"
 
-#include <dlfcn.h>
+#include "platform/shared_library.h"
 
 namespace platform {
 namespace {
-
-template <typename Function>
-bool resolve(void* library, const char* name, Function& function) {
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what dlsym is for
-    function = reinterpret_cast<Function>(dlsym(library, name));
-    return function != nullptr;
-}
 
 void ignoreAlsaError(const char*, int, const char*, int, const char*, ...) {}
 
 // ALSA would report on standard error, at every try, that there is no sound card.
 void silenceAlsa() {
-    void* library = dlopen("libasound.so.2", RTLD_NOW | RTLD_LOCAL);
+    void* library = loadLibrary("libasound.so.2");
     int (*setErrorHandler)(decltype(&ignoreAlsaError)) = nullptr;
     if (library != nullptr && resolve(library, "snd_lib_error_set_handler", setErrorHandler)) {
         setErrorHandler(&ignoreAlsaError);
@@ -26,7 +19,7 @@ void silenceAlsa() {
 bool load(Sdl& sdl) {
     silenceAlsa();
     // Never closed again: threads that SDL leaves behind may still run in it.
-    void* library = dlopen("libSDL2-2.0.so.0", RTLD_NOW | RTLD_LOCAL);
+    void* library = loadLibrary("libSDL2-2.0.so.0");
     return library != nullptr && resolve(library, "SDL_InitSubSystem", sdl.InitSubSystem) &&
            resolve(library, "SDL_QuitSubSystem", sdl.QuitSubSystem) &&
            resolve(library, "SDL_SetMainReady", sdl.SetMainReady) && resolve(library, "SDL_SetHint", sdl.SetHint) &&

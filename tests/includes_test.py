@@ -9,9 +9,9 @@ ROOT = Path(__file__).resolve().parent.parent
 ALLOWED = {
     "rules": set(),
     "settings": {"<Q", "system"},
-    "platform": {"<Q", "<SDL", "system"},
+    "platform": {"<Q", "<SDL", "<librsvg", "system"},
     "animation": {"<Q", "platform"},
-    "assets": {"<Q"},
+    "assets": {"<Q", "platform"},
     "about": {"<Q", "platform", "animation", "assets"},
     "mainwindow": {"<Q", "rules", "settings", "platform", "animation", "assets", "about"},
 }
@@ -22,7 +22,7 @@ def source_of(include):
     if include[0] == '"':
         return include[1:].partition("/")[0]
     if include.endswith(".h") or "/" in include or include[1].isupper():
-        return next((library for library in ("<Q", "<SDL") if include.startswith(library)), "system")
+        return next((library for library in ("<Q", "<SDL", "<librsvg") if include.startswith(library)), "system")
     return ""  # the standard library
 
 

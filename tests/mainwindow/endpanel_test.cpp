@@ -37,7 +37,7 @@ TEST(EndPanel, RunsAgainInTheNextGame) {
     world.open("r r b");
     for (int game = 0; game < 3; ++game) {
         world.finish();
-        const auto* ball = world.control("ip");
+        const auto* ball = world.control<QWidget>("ip");
         const QPoint before = ball->pos();
         EXPECT_TRUE(QTest::qWaitFor([&] { return ball->pos() != before; }));
         world.command(0);

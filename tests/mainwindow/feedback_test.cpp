@@ -1,3 +1,4 @@
+#include "platform/picture_box.h"
 #include "tests/mainwindow/world.h"
 
 namespace mainwindow {
@@ -5,10 +6,10 @@ namespace {
 
 // The buttons that show their hover face, by their index.
 std::string lit(const World& world) {
-    const QImage hoverFace = world.control("BTN", 1)->pixmap().toImage();
+    const platform::Artwork hoverFace = world.control<platform::PictureBox>("BTN", 1)->picture();
     std::string found;
     for (int i = 0; i < 3; ++i) {
-        if (world.control("ImBTN", i)->pixmap().toImage() == hoverFace) {
+        if (world.control<platform::PictureBox>("ImBTN", i)->picture() == hoverFace) {
             found += std::to_string(i);
         }
     }

@@ -28,7 +28,7 @@ TEST(Help, TakesThePlaceOfTheGameAndGivesItBackAsItWas) {
     const auto* panel = world.control<QWidget>("Frame1");
     for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
         for (int press = 0; press < 2; ++press) {
-            QTest::mousePress(world.control("Image1"), button);
+            QTest::mousePress(world.control<QWidget>("Image1"), button);
         }
         ASSERT_EQ(aboutWindows().size(), 1) << "pressed twice, opened once";
         EXPECT_TRUE(aboutWindows()[0]->isVisible());
@@ -48,7 +48,7 @@ TEST(Help, OpensInTheMiddleOfTheGamesScreen) {
     World world;
     world.screen = {30'000, 1'500, 15'360, 11'520};
     world.open();
-    QTest::mousePress(world.control("Image1"), Qt::LeftButton);
+    QTest::mousePress(world.control<QWidget>("Image1"), Qt::LeftButton);
     EXPECT_EQ(aboutWindows().at(0)->geometry(), QRect(2000 + (1024 - 413) / 2, 100 + (768 - 344) / 2, 413, 344));
 }
 
@@ -56,7 +56,7 @@ TEST(Help, WaitsForTheEndOfAMove) {
     World world;
     world.open("rb rb rb");
     world.inPause = [&] {
-        QTest::mousePress(world.control("Image1"), Qt::LeftButton);
+        QTest::mousePress(world.control<QWidget>("Image1"), Qt::LeftButton);
         EXPECT_TRUE(world.window->isVisible());
     };
     world.press(0);
@@ -68,7 +68,7 @@ TEST(Help, ClosingTheGameMeanwhileStoresItsSettings) {
     World world;
     world.open();
     world.type("17", "19");
-    QTest::mousePress(world.control("Image1"), Qt::LeftButton);
+    QTest::mousePress(world.control<QWidget>("Image1"), Qt::LeftButton);
     world.window->close();
     EXPECT_TRUE(aboutWindows().empty()) << "left to the toolkit, it would bring the game back";
     EXPECT_EQ(world.stored("Col"), "17");

@@ -46,7 +46,7 @@ TEST(Layout, ControlsThatOverlapAreStackedAsThePlayerNeedsThem) {
         auto* caption = world.control("LabBtn", i);
         EXPECT_EQ(Frame2->childAt(caption->geometry().center()), caption) << "the caption lies on its button";
     }
-    auto* reset = world.control("ImBTN", 2);
+    auto* reset = world.control<QWidget>("ImBTN", 2);
     EXPECT_EQ(Frame2->childAt(reset->geometry().topLeft() + QPoint(3, 3)), reset) << "the outline lets clicks through";
     EXPECT_FALSE(world.control("Label2")->geometry().intersects(world.control("Label4")->geometry()));
 }

@@ -60,7 +60,7 @@ TEST(Move, GameEndsWithThePanelThatAClickOrANewGameHides) {
         EXPECT_EQ(world.stored("0"), row.score) << row.what;
         EXPECT_TRUE(world.control("sc")->font().bold() && world.control("Label3")->font().bold());
         for (const char* child : {"Label1", "Label7", "ir"}) {
-            QTest::mouseClick(world.control(child), Qt::LeftButton);
+            QTest::mouseClick(world.control<QWidget>(child), Qt::LeftButton);
             EXPECT_TRUE(panel->isVisible()) << child << " does not close the panel";
         }
         row.byClick ? QTest::mouseClick(panel, Qt::LeftButton, {}, {2, panel->height() - 2}) : world.command(0);

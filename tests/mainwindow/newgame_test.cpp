@@ -61,7 +61,7 @@ TEST(NewGame, ClickIsALeftPressAndReleaseOnTheSameButton) {
     world.open();
     world.seed = 7;
     const rules::Board before = world.game().board;
-    auto* picture = world.control("ImBTN", 0);
+    auto* picture = world.control<QWidget>("ImBTN", 0);
     QTest::mouseClick(picture, Qt::RightButton);
     QTest::mousePress(picture, Qt::LeftButton);
     QTest::mouseRelease(picture, Qt::LeftButton, {}, QPoint(-20, 5));

@@ -1,0 +1,15 @@
+#include "platform/outline.h"
+
+#include "platform/pixel_painter.h"
+
+namespace platform {
+
+Outline::Outline(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Outline::paintEvent(QPaintEvent*) {
+    PixelPainter(*this).drawOutline(rect(), palette().color(foregroundRole()));
+}
+
+}  // namespace platform

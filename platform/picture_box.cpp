@@ -1,0 +1,22 @@
+#include "platform/picture_box.h"
+
+#include <utility>
+
+#include "platform/pixel_painter.h"
+
+namespace platform {
+
+PictureBox::PictureBox(Artwork picture, QWidget* parent) : QWidget(parent), shown(std::move(picture)) {}
+
+void PictureBox::setPicture(const Artwork& picture) {
+    if (shown != picture) {
+        shown = picture;
+        update();
+    }
+}
+
+void PictureBox::paintEvent(QPaintEvent*) {
+    PixelPainter(*this).draw({}, shown);
+}
+
+}  // namespace platform

@@ -1,0 +1,48 @@
+#include "platform/pixel_painter.h"
+
+#include <algorithm>
+
+#include <QRegion>
+#include <QWidget>
+
+namespace platform {
+
+PixelPainter::PixelPainter(QWidget& widget) : painter(&widget), toScreen(painter.deviceTransform()) {
+    painter.setTransform(toScreen.inverted());
+}
+
+QRect PixelPainter::pixels(const QRect& area) const {
+    const QRectF exact = toScreen.mapRect(QRectF(area));
+    return {QPoint(qRound(exact.left()), qRound(exact.top())),
+            QPoint(qRound(exact.right()) - 1, qRound(exact.bottom()) - 1)};
+}
+
+void PixelPainter::draw(QPoint place, const Artwork& picture) {
+    const QRect area = pixels({place, picture.size()});
+    painter.drawPixmap(area.topLeft(), picture.inPixels(area.size()));
+}
+
+void PixelPainter::draw(QPoint place, const Artwork& picture, const QRegion& region) {
+    const QRect area = pixels({place, picture.size()});
+    const QPixmap image = picture.inPixels(area.size());
+    for (const QRect& part : region) {
+        // Of a pixel of the screen that is touched all is painted.
+        const QRect touched = toScreen.mapRect(QRectF(part)).toAlignedRect() & area;
+        painter.drawPixmap(touched, image, touched.translated(-area.topLeft()));
+    }
+}
+
+void PixelPainter::drawOutline(const QRect& area, const QColor& colour) {
+    const QRect whole = pixels(area);
+    const int thickness = std::max(1, qRound(painter.device()->devicePixelRatioF()));
+    const QRegion sides = QRegion(whole) - whole.adjusted(thickness, thickness, -thickness, -thickness);
+    for (const QRect& side : sides) {
+        painter.fillRect(side, colour);
+    }
+}
+
+void PixelPainter::draw(QPoint place, const QPixmap& image) {
+    painter.drawPixmap(toScreen.map(QPointF(place)).toPoint(), image);
+}
+
+}  // namespace platform

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <librsvg/rsvg.h>
+
+namespace platform {
+
+/// What the program uses of librsvg and of the libraries below it. They are loaded when a picture is first drawn from
+/// its vector source, which most screens never ask for: loading them takes longer than dealing a game.
+struct VectorLibrary {
+    decltype(&rsvg_handle_new_from_data) newDrawing;
+    decltype(&rsvg_handle_set_stylesheet) setStylesheet;
+    decltype(&rsvg_handle_render_document) renderDocument;
+    decltype(&rsvg_handle_get_intrinsic_size_in_pixels) intrinsicSize;
+    decltype(&g_object_unref) unref;
+    decltype(&cairo_image_surface_create_for_data) newSurface;
+    decltype(&cairo_surface_destroy) destroySurface;
+    decltype(&cairo_create) newContext;
+    decltype(&cairo_destroy) destroyContext;
+    decltype(&cairo_scale) scale;
+    decltype(&cairo_translate) translate;
+};
+
+/// The loaded library, or null if the system has none.
+const VectorLibrary* vectorLibrary();
+
+}  // namespace platform

@@ -1,5 +1,6 @@
 #include "about/about.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QCloseEvent>
@@ -9,6 +10,7 @@
 #include "about/layout.h"
 #include "animation/bouncing_pictures.h"
 #include "assets/pictures.h"
+#include "platform/accessible.h"
 #include "platform/address.h"
 #include "platform/label.h"
 #include "platform/mouse.h"
@@ -43,13 +45,19 @@ About::About(const platform::Box& screen, const animation::Draw& draw, std::func
     setFixedSize(background.size());
     move(platform::toPixels(screen.Left + (screen.Width - platform::toTwips(width())) / 2),
          platform::toPixels(screen.Top + (screen.Height - platform::toTwips(height())) / 2));
+    platform::setAccessibleRole(*this, {.role = QAccessible::Window});
     platform::buildControls(controls(), *this, assets::picture);
     for (int k = 0; auto& label : Label1) {
         label = platform::control<platform::Label>(*this, "Label1", k);
         platform::onMove(*label, [this, k] { Label1_MouseMove(k); });
         platform::onClick(*label, [this, k] { Label1_Click(k); });
+        platform::setAccessibleRole(*label, {QAccessible::Link, [this, k] { Label1_Click(k); }, {}});
+        label->setFocusPolicy(Qt::TabFocus);
         ++k;
     }
+    setTabOrder(Label1[mail], Label1[site]);
+    setTabOrder(Label1[site], Label1[back]);
+    Label1[back]->setFocus();
     for (int k = 0; auto& label : Label2) {
         label = platform::control<platform::Label>(*this, "Label2", k);
         platform::onMove(*label, [this, k] { Label2_MouseMove(k); });
@@ -99,9 +107,24 @@ void About::closeEvent(QCloseEvent* event) {
 }
 
 void About::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Cancel)) {
+    const int key = event->key();
+    if (key == Qt::Key_Escape) {
         close();
+    } else if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
+        Label1_Click(linkWithFocus());
     }
+}
+
+// The keyboard shows where it is as the mouse does.
+bool About::focusNextPrevChild(bool next) {
+    const bool moved = QWidget::focusNextPrevChild(next);
+    Label1_MouseMove(linkWithFocus());
+    return moved;
+}
+
+int About::linkWithFocus() const {
+    const auto* const found = std::ranges::find_if(Label1, &QWidget::hasFocus);
+    return found == Label1.end() ? none : static_cast<int>(found - Label1.begin());
 }
 
 void About::mouseMoveEvent(QMouseEvent*) {

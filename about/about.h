@@ -29,6 +29,7 @@ class About : public QWidget {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -38,6 +39,7 @@ class About : public QWidget {
     void Form_MouseMove();
     void Label1_MouseMove(int Index);
     void Label2_MouseMove(int Index);
+    int linkWithFocus() const;
 
     std::function<void()> closed;
     platform::Artwork background;

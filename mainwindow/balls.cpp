@@ -10,6 +10,7 @@
 
 #include "about/about.h"
 #include "assets/pictures.h"
+#include "mainwindow/boardcursor.h"
 #include "mainwindow/layout.h"
 #include "platform/controls.h"
 #include "platform/label.h"
@@ -27,10 +28,13 @@ balls::balls(Surroundings world)
       surroundings(std::move(world)),
       bestScores(surroundings.store) {
     setWindowTitle(u"Zampotine"_s);
+    cursor = new BoardCursor(*this, game.board, [this](rules::CellIndex i) { play(i); });
     platform::buildControls(controlsInWindow(), *this, assets::picture);
     bindControls();
     connectControls();
     connectMouse();
+    connectKeys();
+    describeControls();
     Form_Load();
 }
 
@@ -88,13 +92,6 @@ void balls::connectControls() {
     platform::onClick(*Frame1, [this] { Frame1_Click(); });
     // The session may end without closing the window first.
     connect(qApp, &QGuiApplication::commitDataRequest, this, &balls::Form_Unload);
-
-    for (int k = 4; k > 0; --k) {
-        setTabOrder(Option1[k], Option1[k - 1]);
-    }
-    setTabOrder(Option1[0], Text1[1]);
-    setTabOrder(Text1[1], Text1[0]);
-    setTabOrder(Text1[0], Check1);
 }
 
 void balls::paintEvent(QPaintEvent* event) {

@@ -35,6 +35,8 @@ class TextBox;
 
 namespace mainwindow {
 
+class BoardCursor;
+
 /// What the main window needs of the world, so that a test can put it into a world of its own.
 struct Surroundings {
     settings::Store& store;
@@ -45,7 +47,7 @@ struct Surroundings {
 };
 
 /// The main window: a shell that wires the controls to the rules, the best scores and the sound. Each subject
-/// has a file of its own: startup, commands, newgame, move, bestscore, endpanel, feedback, help.
+/// has a file of its own: startup, commands, newgame, move, bestscore, endpanel, feedback, keys, accessibility, help.
 class balls : public QWidget, private rules::Host {
     Q_OBJECT
 
@@ -76,6 +78,8 @@ class balls : public QWidget, private rules::Host {
     enum Command { newGame = 0, quit = 1, reset = 2, help };
 
     static constexpr int noButton = 5;  ///< as a button's index: all show their normal face
+    static constexpr std::array<QKeyCombination, 3> commandKeys{Qt::Key_F2, Qt::CTRL | Qt::Key_Q, Qt::CTRL | Qt::Key_R};
+    static constexpr QKeyCombination helpKey = Qt::Key_F1;
 
     // startup
     void Form_Load();
@@ -91,6 +95,7 @@ class balls : public QWidget, private rules::Host {
 
     // move
     void c_MouseDown(rules::CellIndex i, const QMouseEvent& press);
+    void play(rules::CellIndex i);
     void cellCleared(rules::CellIndex i) override;
     void yield() override;
     void scoreChanged() override;
@@ -123,6 +128,10 @@ class balls : public QWidget, private rules::Host {
     void LabBtn_MouseMove(int Index);
     void highlight(int i);
 
+    // keys, accessibility
+    void connectKeys();
+    void describeControls();
+
     // help
     void Image1_MouseDown();
     void openAbout();
@@ -153,6 +162,7 @@ class balls : public QWidget, private rules::Host {
     RemovalPace pace;
     QRegion cleared;  ///< cleared cells that are still to be painted, in pixels
 
+    BoardCursor* cursor = nullptr;
     CellPictures c;
     PictureFrame frame;
 

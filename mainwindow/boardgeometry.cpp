@@ -23,6 +23,10 @@ QRect cellArea(const rules::Board& board, rules::CellIndex i) {
     return {platform::toPixels(Left), platform::toPixels(Top), side, side};
 }
 
+QRect boardArea(const rules::Board& board) {
+    return {origin, origin, board.NbCol * side, board.NbLig * side};
+}
+
 std::optional<rules::CellIndex> cellAt(const rules::Board& board, QPoint point) {
     const QRect cell = cellsTouching(board, {point, QSize(1, 1)});
     if (cell.isEmpty()) {
@@ -32,8 +36,7 @@ std::optional<rules::CellIndex> cellAt(const rules::Board& board, QPoint point) 
 }
 
 QRect cellsTouching(const rules::Board& board, const QRect& area) {
-    const QRect all(origin, origin, board.NbCol * side, board.NbLig * side);
-    const QRect part = (area & all).translated(-origin, -origin);
+    const QRect part = (area & boardArea(board)).translated(-origin, -origin);
     if (part.isEmpty()) {
         return {};
     }

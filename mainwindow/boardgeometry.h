@@ -27,6 +27,9 @@ Place placeOf(const rules::Board& board, rules::CellIndex i);
 /// The area of cell i, in pixels.
 QRect cellArea(const rules::Board& board, rules::CellIndex i);
 
+/// The area of all cells, in pixels.
+QRect boardArea(const rules::Board& board);
+
 /// The cell under a point of the window, in pixels; none beside the board.
 std::optional<rules::CellIndex> cellAt(const rules::Board& board, QPoint point);
 

@@ -1,10 +1,13 @@
 // The panel that shows at the end of a game.
 
 #include "mainwindow/balls.h"
+#include "platform/accessible.h"
 #include "platform/label.h"
 #include "platform/look.h"
 #include "rules/random.h"
 #include "settings/number.h"
+
+using namespace Qt::StringLiterals;
 
 namespace mainwindow {
 
@@ -22,6 +25,9 @@ void balls::ShowEndPanel() {
     // Not what Label4 shows: that may be the preview of another level by now.
     const double best = settings::numberIn(bestScores.hsc(game.Diff)).value_or(0);
     Label7->setVisible(best <= static_cast<double>(game.score));
+    // Its own name, for screen readers, is what can be read in it.
+    Frame1->setAccessibleName(Label1->text() + (Label7->isVisible() ? u", "_s + Label7->text() : QString()));
+    platform::announce(*Frame1);
     endBalls->start(rules::Random(rules::seedFromClock()));
 }
 

@@ -6,6 +6,8 @@
 
 #include "mainwindow/balls.h"
 #include "mainwindow/boardgeometry.h"
+#include "mainwindow/boardtable.h"
+#include "platform/accessible.h"
 #include "platform/label.h"
 #include "platform/yield.h"
 
@@ -25,6 +27,13 @@ void balls::c_MouseDown(rules::CellIndex i, const QMouseEvent& press) {
     highlight(noButton);
     if (game.board[i] == rules::Code::none) {
         Form_MouseDown(press);
+    } else {
+        play(i);
+    }
+}
+
+void balls::play(rules::CellIndex i) {
+    if (moving) {
         return;
     }
     exclusively([this, i] {
@@ -67,10 +76,12 @@ void balls::scoreChanged() {
 
 void balls::lastMoveChanged(std::string_view text) {
     l1[0]->setText(toText(text));
+    platform::announce(*l1[0]);
 }
 
 void balls::remainingChanged(std::string_view text) {
     l1[3]->setText(toText(text));
+    platform::announce(*l1[3]);
 }
 
 void balls::playWave(std::string_view file) {
@@ -85,6 +96,7 @@ void balls::playWave(std::string_view file) {
 void balls::boardSettled() {
     c.showAll(game.board);
     update();
+    tellChanges(*cursor);
 }
 
 }  // namespace mainwindow

@@ -5,7 +5,9 @@
 #include <QRadioButton>
 
 #include "mainwindow/balls.h"
+#include "mainwindow/boardcursor.h"
 #include "mainwindow/boardgeometry.h"
+#include "mainwindow/boardtable.h"
 #include "mainwindow/sizing.h"
 #include "platform/label.h"
 #include "platform/text_box.h"
@@ -40,6 +42,7 @@ void balls::SizeBoard() {
     Text1[0]->setText(QString::number(size.NbLig));
     rules::resizeBoard(game, size.NbCol, size.NbLig);
     c.create(game.board);
+    cursor->fitBoard();
     bestScores.load();
     showTable();
 }
@@ -57,6 +60,7 @@ void balls::NewGame() {
     hideEndPanel();
     rules::deal(game, selectedLevel(), rules::Random(surroundings.seed()));
     c.showAll(game.board);
+    tellChanges(*cursor);
     bestScores.load(game.Diff);
     scoreChanged();
     remainingChanged(rules::remainingText(game.Total, game.NBBoules));

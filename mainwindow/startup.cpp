@@ -11,6 +11,7 @@
 
 #include "about/about.h"
 #include "mainwindow/balls.h"
+#include "mainwindow/boardcursor.h"
 #include "platform/text_box.h"
 #include "settings/number.h"
 
@@ -35,10 +36,9 @@ std::optional<int> wholeNumber(const QString& text) {
 void balls::Form_Load() {
     const settings::Store& store = surroundings.store;
     const auto level = wholeNumber(store.read(init, u"Niveau"_s, u"0"_s)).value_or(0);
-    QRadioButton* selected = Option1[level < 0 || level > 4 ? 0 : level];
-    selected->setChecked(true);
+    Option1[level < 0 || level > 4 ? 0 : level]->setChecked(true);
     // The toolkit would give the focus to the first option of the tab order, which a key would then select.
-    selected->setFocus();
+    cursor->setFocus();
     Text1[1]->setText(store.read(init, u"Col"_s, u"25"_s));
     Text1[0]->setText(store.read(init, u"Lig"_s, u"25"_s));
     const QString sound = store.read(init, u"Son"_s, u"1"_s);

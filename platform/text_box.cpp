@@ -31,6 +31,7 @@ void TextBox::paintEvent(QPaintEvent*) {
 void TextBox::createEditor() {
     editor = new QLineEdit(initial, this);
     editor->setObjectName(objectName());
+    editor->setAccessibleName(accessibleName());
     editor->setContextMenuPolicy(Qt::PreventContextMenu);
     editor->setGeometry(rect());
     setTabOrder(this, editor);

@@ -51,7 +51,7 @@ TEST(Layout, ControlsThatOverlapAreStackedAsThePlayerNeedsThem) {
     EXPECT_FALSE(world.control("Label2")->geometry().intersects(world.control("Label4")->geometry()));
 }
 
-TEST(Layout, TabGoesFromTheSelectedOptionToTheBoxesAndTheSwitch) {
+TEST(Layout, TabGoesFromTheBoardToTheSelectedOptionTheBoxesAndTheSwitch) {
     World world;
     world.set("Niveau", "2");
     world.open();
@@ -60,11 +60,11 @@ TEST(Layout, TabGoesFromTheSelectedOptionToTheBoxesAndTheSwitch) {
     const auto expectFocus = [&](const char* stop) {
         EXPECT_STREQ(qPrintable(world.window->focusWidget()->objectName()), stop);
     };
-    for (const char* stop : {"Option1(2)", "Text1(1)", "Text1(0)", "Check1", "Option1(2)"}) {
+    for (const char* stop : {"board", "Option1(2)", "Text1(1)", "Text1(0)", "Check1", "board"}) {
         expectFocus(stop);
         QTest::keyClick(world.window->focusWidget(), Qt::Key_Tab);
     }
-    for (const char* stop : {"Text1(1)", "Option1(2)", "Check1", "Text1(0)", "Text1(1)"}) {
+    for (const char* stop : {"Option1(2)", "board", "Check1", "Text1(0)", "Text1(1)"}) {
         expectFocus(stop);
         QTest::keyClick(world.window->focusWidget(), Qt::Key_Backtab);
     }

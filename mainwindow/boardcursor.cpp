@@ -1,0 +1,138 @@
+#include "mainwindow/boardcursor.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "mainwindow/boardgeometry.h"
+#include "mainwindow/boardtable.h"
+
+using namespace Qt::StringLiterals;
+
+namespace mainwindow {
+namespace {
+
+constexpr int reach = 3;  // how far the ring stands out beyond its cell, in pixels
+
+}  // namespace
+
+BoardCursor::BoardCursor(QWidget& window, const rules::Board& board, std::function<void(rules::CellIndex)> press)
+    : QWidget(&window), shownBoard(board), pressed(std::move(press)) {
+    setObjectName(u"board"_s);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::TabFocus);
+    makeBoardsAccessible();
+}
+
+void BoardCursor::fitBoard() {
+    place = {std::min(place.col, shownBoard.NbCol - 1), std::min(place.row, shownBoard.NbLig - 1)};
+    setGeometry(boardArea(shownBoard).adjusted(-reach, -reach, reach, reach));
+    update();
+}
+
+rules::CellIndex BoardCursor::cell() const {
+    return static_cast<rules::CellIndex>(place.col * shownBoard.NbLig + place.row);
+}
+
+void BoardCursor::moveTo(rules::CellIndex cell) {
+    place = shownBoard.positionOf(cell);
+    setShown(true);
+    tellFocus(*this);
+}
+
+// The filter is there while the cursor shows.
+bool BoardCursor::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress) {
+        setShown(false);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void BoardCursor::focusInEvent(QFocusEvent* event) {
+    setShown(shown || event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason);
+    tellFocus(*this);
+}
+
+void BoardCursor::focusOutEvent(QFocusEvent*) {
+    update();
+}
+
+void BoardCursor::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    const bool presses = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (presses && shown) {
+        if (!event->isAutoRepeat()) {
+            press(cell());
+        }
+    } else if (presses || moveBy(key)) {
+        moveTo(cell());
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+// A first key only shows where the cursor is.
+bool BoardCursor::moveBy(int key) {
+    const rules::Position last{shownBoard.NbCol - 1, shownBoard.NbLig - 1};
+    rules::Position to = place;
+    switch (key) {
+        case Qt::Key_Left:
+            to.col = std::max(to.col - 1, 0);
+            break;
+        case Qt::Key_Right:
+            to.col = std::min(to.col + 1, last.col);
+            break;
+        case Qt::Key_Up:
+            to.row = std::max(to.row - 1, 0);
+            break;
+        case Qt::Key_Down:
+            to.row = std::min(to.row + 1, last.row);
+            break;
+        case Qt::Key_Home:
+            to.col = 0;
+            break;
+        case Qt::Key_End:
+            to.col = last.col;
+            break;
+        case Qt::Key_PageUp:
+            to.row = 0;
+            break;
+        case Qt::Key_PageDown:
+            to.row = last.row;
+            break;
+        default:
+            return false;
+    }
+    if (shown) {
+        place = to;
+    }
+    return true;
+}
+
+void BoardCursor::setShown(bool show) {
+    if (show != std::exchange(shown, show)) {
+        show ? QCoreApplication::instance()->installEventFilter(this)
+             : QCoreApplication::instance()->removeEventFilter(this);
+    }
+    update();
+}
+
+// White between black, so that it stands out from every colour and from the field.
+void BoardCursor::paintEvent(QPaintEvent*) {
+    if (!shown || !hasFocus()) {
+        return;
+    }
+    constexpr double rounding = 4;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF ring = QRectF(cellArea(shownBoard, cell()).translated(-pos())).adjusted(-1, -1, 1, 1);
+    for (const auto& [colour, width] : {std::pair{Qt::black, 4}, std::pair{Qt::white, 2}}) {
+        painter.setPen(QPen(colour, width));
+        painter.drawRoundedRect(ring, rounding, rounding);
+    }
+}
+
+}  // namespace mainwindow

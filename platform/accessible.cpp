@@ -1,0 +1,84 @@
+#include "platform/accessible.h"
+
+#include <utility>
+
+#include <QAccessibleWidget>
+#include <QLabel>
+
+namespace platform {
+namespace {
+
+// Keeps with a control what its interface is made of, once a screen reader asks for that.
+class RoleOfParent : public QObject {
+  public:
+    RoleOfParent(QWidget& control, AccessibleRole given) : QObject(&control), role(std::move(given)) {}
+
+    const AccessibleRole role;
+};
+
+class Interface : public QAccessibleWidget {
+  public:
+    Interface(QWidget& control, const AccessibleRole& role) : QAccessibleWidget(&control, role.role), known(role) {}
+
+    QString text(QAccessible::Text kind) const override {
+        const auto* label = qobject_cast<const QLabel*>(widget());
+        const bool isItsName = kind == QAccessible::Name && label != nullptr && widget()->accessibleName().isEmpty();
+        return isItsName ? label->text() : QAccessibleWidget::text(kind);
+    }
+
+    QStringList actionNames() const override {
+        return known.press == nullptr ? QStringList() : QStringList(pressAction());
+    }
+
+    void doAction(const QString& action) override {
+        if (actionNames().contains(action)) {
+            // The screen reader gets its answer first: what a press does may last.
+            QMetaObject::invokeMethod(
+                widget(),
+                [control = widget(), press = known.press] {
+                    if (control->isVisible()) {
+                        press();
+                    }
+                },
+                Qt::QueuedConnection);
+        }
+    }
+
+    QStringList keyBindingsForAction(const QString& action) const override {
+        return actionNames().contains(action) && !known.key.isEmpty() ? QStringList(known.key) : QStringList();
+    }
+
+  private:
+    const AccessibleRole& known;
+};
+
+QAccessibleInterface* create(const QString&, QObject* object) {
+    auto* control = qobject_cast<QWidget*>(object);
+    if (control == nullptr) {
+        return nullptr;
+    }
+    for (QObject* child : control->children()) {
+        if (const auto* given = dynamic_cast<RoleOfParent*>(child)) {
+            return new Interface(*control, given->role);
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void setAccessibleRole(QWidget& control, AccessibleRole role) {
+    QAccessible::installFactory(create);  // once, however often it is called
+    new RoleOfParent(control, std::move(role));
+    if (QAccessible::isActive()) {
+        // A screen reader may have asked already, and was given the toolkit's interface.
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&control)));
+    }
+}
+
+void announce(QWidget& notification) {
+    QAccessibleEvent shown(&notification, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&shown);
+}
+
+}  // namespace platform

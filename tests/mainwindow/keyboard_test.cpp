@@ -1,0 +1,105 @@
+#include <QApplication>
+#include <QCheckBox>
+
+#include "mainwindow/boardcursor.h"
+#include "tests/mainwindow/world.h"
+
+namespace mainwindow {
+namespace {
+
+struct KeyboardWorld : World {
+    explicit KeyboardWorld(const char* board) {
+        open(board);
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    BoardCursor* cursor() const { return window->findChild<BoardCursor*>(); }
+    void key(QKeyCombination key) const { QTest::keyClick(window->focusWidget(), key.key(), key.keyboardModifiers()); }
+    QImage look() const { return window->grab().toImage(); }
+};
+
+TEST(Keyboard, FirstKeyOnlyShowsTheCursorAndTheMouseHidesIt) {
+    KeyboardWorld world("rb rb");
+    const QImage before = world.look();
+    for (const auto key : {Qt::Key_Space, Qt::Key_Up}) {
+        world.key(key);
+        EXPECT_EQ(world.cursor()->cell(), 1) << "the lowest cell at the left";
+        EXPECT_NE(world.look(), before);
+        world.hover({20, key == Qt::Key_Up ? 40 : 44});
+        EXPECT_EQ(world.look(), before);
+    }
+    world.key(Qt::Key_Tab);
+    EXPECT_FALSE(world.cursor()->hasFocus());
+    EXPECT_EQ(world.game().board, picture("rb rb"));
+}
+
+TEST(Keyboard, CursorStaysOnTheBoard) {
+    KeyboardWorld world("rbr brb");
+    const std::vector<std::tuple<Qt::Key, int, const char*>> table{
+        {Qt::Key_Left, 1, "shown"},      {Qt::Key_Left, 1, "left edge"},    {Qt::Key_Down, 1, "lower edge"},
+        {Qt::Key_Up, 0, "up"},           {Qt::Key_Up, 0, "upper edge"},     {Qt::Key_Right, 2, "right"},
+        {Qt::Key_End, 4, "last column"}, {Qt::Key_Right, 4, "right edge"},  {Qt::Key_PageDown, 5, "bottom row"},
+        {Qt::Key_Left, 3, "left"},       {Qt::Key_Home, 1, "first column"}, {Qt::Key_PageUp, 0, "top row"},
+        {Qt::Key_Down, 1, "down"},
+    };
+    for (const auto& [key, cell, what] : table) {
+        world.key(key);
+        EXPECT_EQ(world.cursor()->cell(), cell) << what;
+    }
+    world.cursor()->moveTo(5);
+    world.screen.Width -= 300;
+    world.key(Qt::Key_F2);
+    EXPECT_EQ(world.cursor()->cell(), 3) << "on the smaller board of the next game";
+    EXPECT_TRUE(world.cursor()->hasFocus());
+}
+
+TEST(Keyboard, SpaceAndEnterPressTheCellOnce) {
+    for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        KeyboardWorld world("rb br br");
+        world.key(key);
+        QKeyEvent held(QEvent::KeyPress, key, {}, {}, true);
+        QCoreApplication::sendEvent(world.cursor(), &held);
+        EXPECT_EQ(world.game().board, picture("rb br br")) << "shown, and held";
+        world.key(key);
+        EXPECT_EQ(world.game().board, picture(".b .r rr")) << "pressed";
+        world.cursor()->moveTo(0);
+        world.key(key);
+        EXPECT_EQ(world.game().board, picture(".b .r rr")) << "an empty cell";
+    }
+}
+
+TEST(Keyboard, EndPanelIsLeftWithAKey) {
+    for (const auto key : {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        KeyboardWorld world("r r b");
+        world.finish();
+        world.key(key);
+        EXPECT_FALSE(world.control<QWidget>("Frame1")->isVisible());
+    }
+}
+
+TEST(Keyboard, EveryCommandHasAKey) {
+    KeyboardWorld world("rb rb");
+    for (const auto key : {QKeyCombination(Qt::Key_F2), Qt::CTRL | Qt::Key_N}) {
+        world.press(0);
+        world.key(key);
+        EXPECT_EQ(world.game().board, picture("rb rb"));
+    }
+    EXPECT_EQ(world.stored("0"), "4");
+    world.key(Qt::CTRL | Qt::Key_R);
+    EXPECT_EQ(world.stored("0"), "0");
+    const bool sound = world.control<QCheckBox>("Check1")->isChecked();
+    world.key(Qt::CTRL | Qt::Key_S);
+    EXPECT_NE(world.control<QCheckBox>("Check1")->isChecked(), sound);
+    world.key(Qt::Key_F1);
+    EXPECT_FALSE(world.window->isVisible()) << "the About window takes its place";
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(world.window->isVisible()) << "and is left by the link that has the focus";
+    ASSERT_TRUE(QTest::qWaitForWindowActive(world.window.get()));
+    world.key(Qt::CTRL | Qt::Key_Q);
+    EXPECT_FALSE(world.window->isVisible());
+}
+
+}  // namespace
+}  // namespace mainwindow

@@ -1,24 +1,17 @@
 #!/usr/bin/python3 -B
-"""Plays the real program on a real X display, with pointer and keyboard.
-
-Usage: endtoend_test.py PROGRAM FOLDER [TEST...], where FOLDER takes the screenshots of failures.
-"""
-import contextlib
+"""Plays the real program on a real X display, with pointer and keyboard."""
 import pathlib
 import random
-import signal
-import sys
 import time
-import unittest
 
 import numpy as np
 
 import model
-from desktop import PATIENCE, Desktop, wait_for
+from case import PROGRAM, Case, main
+from desktop import PATIENCE, wait_for
 from player import (BACK, COLOURS, HELP_ICON, MAIL, NEW_GAME, OPTIONS, QUIT_CAPTION, QUIT_PICTURE, SITE, SOUND_SWITCH,
                     Player, centre)
 
-PROGRAM, FOLDER = (pathlib.Path(path).resolve() for path in sys.argv[1:3])
 SOUNDS = pathlib.Path(__file__).resolve().parents[2] / "assets" / "sounds"
 SOUND_UP_TO = {2: "son2.WAV", 10: "son5.WAV", 50: "son10.WAV", 80: "son50.WAV", 1200: "son80.WAV"}  # balls
 
@@ -27,17 +20,7 @@ def loudness(file, header=0):
     return abs(np.fromfile(file, "<i2", offset=header).astype(int)).sum()
 
 
-class EndToEnd(unittest.TestCase):
-    @contextlib.contextmanager
-    def player(self, settings=None, width=1600, height=1200):
-        with contextlib.ExitStack() as stack:
-            desktop = Desktop(stack, FOLDER, width, height)
-            try:
-                yield Player(desktop, PROGRAM, settings)
-            except Exception:
-                desktop.screenshot().save(FOLDER / f"{self.id()}.png")
-                raise
-
+class EndToEnd(Case):
     def test_starts_and_ends(self):
         with self.player() as player:
             self.assertEqual(player.geometry(), (431, 250, 738, 567))
@@ -230,5 +213,4 @@ class EndToEnd(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    signal.signal(signal.SIGTERM, signal.default_int_handler)
-    unittest.main(argv=[sys.argv[0], *sys.argv[3:]])
+    main()

@@ -20,8 +20,9 @@ def wait_for(what, condition, patience=PATIENCE):
 
 
 class Desktop:
-    def __init__(self, stack, folder, width, height):
-        """Whatever is started ends when the stack is unwound, or with this process."""
+    def __init__(self, stack, folder, width, height, managed=True, session=None):
+        """Whatever is started ends when the stack is unwound, or with this process. A session is more variables of
+        the environment; without a window manager, the keyboard is with the window under the pointer."""
         home = pathlib.Path(stack.enter_context(tempfile.TemporaryDirectory(dir=folder)))
         self.home = home
         self.loudspeaker = home / "loudspeaker"  # a file that grows at the speed of the sound
@@ -35,23 +36,29 @@ class Desktop:
             "QT_QPA_PLATFORM": "xcb",
             "SDL_AUDIODRIVER": "disk",
             "SDL_DISKAUDIOFILE": str(self.loudspeaker),
+            **(session or {}),
         }
         # What opens addresses for the player notes them down.
         self.opened = home / "opened"
         opener = home / "xdg-open"
         opener.write_text(f'#!/bin/sh\necho "$@" >>"{self.opened}"\n')
         opener.chmod(0o755)
+        self.managed = managed
         self._stack = stack
-        xvfb = self.start("Xvfb", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24", output=subprocess.PIPE)
+        # The display would start anew, and drop who is just coming, each time that its last client leaves.
+        xvfb = self.start("Xvfb", "-noreset", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24",
+                          output=subprocess.PIPE)
         self.environment["DISPLAY"] = ":" + xvfb.stdout.readline().decode().strip()
-        # Before the window manager is ready, windows may get lost between it and the display.
-        self.start("openbox", "--startup", "touch ready")
-        wait_for("the window manager", (home / "ready").exists)
+        if managed:
+            # Before the window manager is ready, windows may get lost between it and the display.
+            self.start("openbox", "--startup", "touch ready")
+            wait_for("the window manager", (home / "ready").exists)
 
-    def start(self, *command, output=None):
+    def start(self, *command, output=None, errors=None):
         """A process that is ended with the stack, and by the kernel should this process be killed."""
         process = self._stack.enter_context(subprocess.Popen(
-            ["setpriv", "--pdeathsig", "TERM", *command], env=self.environment, cwd=self.home, stdout=output))
+            ["setpriv", "--pdeathsig", "TERM", *command], env=self.environment, cwd=self.home,
+            stdout=output, stderr=errors))
         self._stack.callback(process.terminate if command[0] == "Xvfb" else process.kill)
         return process
 

@@ -40,6 +40,8 @@ def centre(cell):
 
 
 class Player:
+    AFTER_POINTING = ()  # words of xdotool
+
     def __init__(self, desktop, program, settings=None):
         """Starts the program, over a settings file with these lines if any are given."""
         self.desktop = desktop
@@ -49,7 +51,8 @@ class Player:
         self.process = desktop.start(program)
         self.window = wait_for("the window", self.visible)
         wait_for("a dealt board", lambda: set("".join(self.board())) <= set(COLOURS))
-        wait_for("the keyboard's focus", lambda: "Zampotine" in desktop.xdotool("getwindowfocus", "getwindowname"))
+        if desktop.managed:
+            wait_for("the keyboard's focus", lambda: "Zampotine" in desktop.xdotool("getwindowfocus", "getwindowname"))
 
     def stored(self):
         return dict(re.findall("(.+)=(.*)", self.file.read_text()))
@@ -105,7 +108,8 @@ class Player:
         left, top, _, _ = self.geometry(window)
         words = []
         for action in actions:
-            words += ["mousemove", left + action[0], top + action[1]] if isinstance(action, tuple) else [action]
+            move = isinstance(action, tuple) and ["mousemove", left + action[0], top + action[1], *self.AFTER_POINTING]
+            words += move or [action]
         self.desktop.xdotool(*words)
 
     def act_at_once(self, *actions):

@@ -1,0 +1,104 @@
+#!/usr/bin/python3 -B
+"""Shows the real program at home on desktops of many kinds."""
+import re
+import time
+
+import numpy as np
+
+import model
+from case import PROGRAM, Case, main
+from desktop import PATIENCE, wait_for
+from player import BOARD, CELL, COLUMNS_BOX, NEW_GAME, Player, centre
+from wayland import WaylandPlayer
+
+SETTINGS = "Col=25\nLig=20\nSon=0\n"
+BACKGROUND = (200, 445)
+LARGE_FONT = "DejaVu Serif,20,-1,5,50,0,0,0,0,0"
+FILES = {
+    "gtk-3.0/settings.ini": "[Settings]\ngtk-font-name=DejaVu Serif 20\n",
+    "kdeglobals": f"[General]\nfont={LARGE_FONT}\ntoolBarFont={LARGE_FONT}\nwidgetStyle=windows\n" + "".join(
+        f"[Colors:{part}]\nBackgroundNormal=30,0,30\nBackgroundAlternate=30,0,30\nForegroundNormal=255,255,0\n"
+        for part in ("Window", "View", "Button", "Selection", "Tooltip")),
+}
+SESSIONS = {
+    "of no kind": {},
+    "KDE": {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"},
+    "GNOME, dark": {"XDG_CURRENT_DESKTOP": "GNOME", "GTK_THEME": "Adwaita:dark"},
+    "GNOME, high contrast": {"XDG_CURRENT_DESKTOP": "GNOME", "GTK_THEME": "HighContrastInverse"},
+    "Arabic, own style": {"LC_ALL": "ar_EG.UTF-8", "QT_STYLE_OVERRIDE": "windows", "QT_QPA_PLATFORMTHEME": "qt6ct"},
+}
+
+
+class Desktops(Case):
+    def test_sessions(self):
+        looks = {}
+        for name, session in SESSIONS.items():
+            with self.subTest(session=name), self.desktop(session=session) as desktop:
+                for file, text in FILES.items():
+                    (desktop.home / file).parent.mkdir(exist_ok=True)
+                    (desktop.home / file).write_text(text)
+                player = Player(desktop, PROGRAM, SETTINGS)
+                left, top, width, _ = player.geometry()
+
+                def screen_without_balls():
+                    screen = np.array(desktop.screenshot().convert("RGB"))
+                    screen[top + BOARD:top + BOARD + 20 * CELL, left + BOARD:left + BOARD + 25 * CELL] = 0
+                    return screen
+
+                player.act(player.in_panel(COLUMNS_BOX), "click", 1, "key", "ctrl+a")
+                player.act(player.in_panel((70, 125)), "sleep", 0.1, player.in_panel((72, 125)))
+                wait_for("a tool tip beyond the window", lambda: desktop.screenshot().getbbox()[2] > left + width)
+                main_look = looks.setdefault("main", screen_without_balls())
+                # Once in a while, the blinking cursor too is as it was.
+                wait_for("the same main window", lambda: (screen_without_balls() == main_look).all(), patience=5)
+                about = player.open_about()
+                # What shows most of the time is what lies under the bouncing balls.
+                moments = [player.look((0, 0), (413, 344), about) for _ in range(9) if not time.sleep(0.08)]
+                still = np.median(moments, 0)
+                self.assertTrue((still == looks.setdefault("About", still)).all(), "the same About window")
+
+    def test_two_screens(self):
+        with self.desktop(2400, 1200) as desktop:
+            for monitor in ("left 1400/370x1000/265+0+0 screen", "right 1000/265x800/212+1400+300 none"):
+                self.assertEqual(desktop.start("xrandr", "--setmonitor", *monitor.split()).wait(PATIENCE), 0)
+            player = Player(desktop, PROGRAM, SETTINGS)
+            for across, about_place, new_place in (
+                ((0, 0), (493, 328), (331, 200)),
+                ((1000, 280), (1400 + 293, 300 + 228), (1400 + 131, 300 + 100)),
+                ((-900, 20), (493, 328), (331, 200)),
+            ):
+                self.assertEqual(player.drag(BACKGROUND, 1, [across]), [across])
+                about = player.open_about()
+                self.assertEqual(player.geometry(about)[:2], about_place)
+                player.leave_about(about, "key", "Escape")
+                player.click(NEW_GAME)
+                wait_for(f"a new game at {new_place}", lambda: player.geometry()[:2] == new_place)
+
+    def play_and_leave(self, player):
+        board = player.board()
+        balls = model.groups(board)[-1]
+        player.act(centre(min(balls)), "click", 1, BACKGROUND)
+        player.expect_board(model.without(board, balls), f"{min(balls)} on\n{model.text(board)}")
+        for button, moves in (1, [(40, -33), (-60, 50)]), (3, [(20, 10)]):
+            self.assertEqual(player.drag(BACKGROUND, button, moves), moves)
+        player.leave_about(player.open_about(), "key", "Escape")
+        player.enter("12", "15")
+        player.click(NEW_GAME)
+        wait_for("a board as typed", lambda: player.board_size() == (12, 15))
+        player.process.terminate()
+        self.assertEqual(player.process.wait(PATIENCE), 0)
+
+    def test_no_window_manager(self):
+        with self.player(SETTINGS, managed=False) as player:
+            self.play_and_leave(player)
+
+    def test_wayland(self):
+        with self.desktop(1400, 1000, managed=False) as desktop:
+            player = WaylandPlayer(desktop, PROGRAM, SETTINGS)
+            self.play_and_leave(player)
+            # By this name the desktop finds the windows' icon.
+            self.assertEqual(set(re.findall(r'\.set_app_id\("(.*)"\)', player.log.read_text())), {"zampotine"})
+
+
+if __name__ == "__main__":
+    main()

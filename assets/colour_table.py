@@ -1,11 +1,12 @@
 #!/usr/bin/python3
 """Can players with any kind of sight tell the six balls apart?
 
-Prints the colour difference (CIEDE2000) of every pair of ball pictures, by mean and by dominant
-colour, for normal sight and for three simulated kinds of dichromacy, and the least of them all.
+Prints for each folder of pictures the colour difference (CIEDE2000) of every pair of balls, by mean
+and by dominant colour, for normal sight and for three simulated kinds of dichromacy, and the least of
+them all.
 The exit status is 1 if that is below LEAST_DIFFERENCE.
 
-Usage: colour_table.py [PICTURES_FOLDER]
+Usage: colour_table.py [PICTURES_FOLDER...]
 """
 import itertools
 import pathlib
@@ -75,10 +76,10 @@ def ciede2000(one, other):
 
 
 def ball_colours(path):
-    """Mean and dominant colour of the opaque pixels, 0 to 1. The dominant one is the mean of the
+    """Mean and dominant colour of the pixels that are mostly opaque, 0 to 1. The dominant one is the mean of the
     fullest bin when each channel is cut into eight."""
     pixels = np.array(Image.open(path).convert("RGBA")).reshape(-1, 4)
-    pixels = pixels[pixels[:, 3] > 0, :3]
+    pixels = pixels[pixels[:, 3] > 127, :3]
     bins, members, counts = np.unique(pixels // 32, axis=0, return_inverse=True, return_counts=True)
     dominant = pixels[members.reshape(-1) == counts.argmax()]
     return pixels.mean(axis=0) / 255, dominant.mean(axis=0) / 255
@@ -90,8 +91,13 @@ def main():
             if abs(ciede2000(*pair) - expected) > 5e-5:
                 sys.exit(f"ciede2000{pair} is {ciede2000(*pair):.4f}, published {expected}")
 
-    folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else PICTURES
-    colours = {name: ball_colours(folder / f"{file}.gif") for file, name in BALLS.items()}
+    return int(min(map(least_difference, sys.argv[1:] or [PICTURES])) < LEAST_DIFFERENCE)
+
+
+def least_difference(folder):
+    """Prints the table of one folder of pictures, and returns the least difference in it."""
+    print(folder)
+    colours = {name: ball_colours(next(pathlib.Path(folder).glob(f"{file}.*"))) for file, name in BALLS.items()}
     least = np.inf
     for sight, matrix in SIGHTS.items():
         print(f"{sight:18}    mean  dominant")
@@ -102,7 +108,7 @@ def main():
             print(f"  {one + ' - ' + other:16}  {mean:6.1f}  {dominant:8.1f}{low}")
             least = min(least, mean, dominant)
     print(f"least: {least:.1f}")
-    return int(least < LEAST_DIFFERENCE)
+    return least
 
 
 if __name__ == "__main__":

@@ -10,7 +10,7 @@ declare -A packages=(
     [game]='fonts-liberation x11-utils'
     [wayland]='qt6-wayland wayland-utils'
     [screen]='xvfb openbox xdotool x11-utils imagemagick'
-    [tests]="libgtest-dev xvfb openbox xdotool x11-utils imagemagick python3 python3-pil python3-numpy \
+    [tests]="libgtest-dev xvfb openbox xdotool x11-utils imagemagick python3 python3-pil python3-numpy dbus-bin dbus-daemon at-spi2-core python3-pyatspi \
              weston qt6-wayland qt6-gtk-platformtheme x11-xserver-utils"
     [asan]='clang libclang-rt-14-dev llvm'
     [lint]='clang-format-14 clang-tidy-14 shellcheck pyflakes3'

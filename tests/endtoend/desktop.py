@@ -33,6 +33,7 @@ class Desktop:
             "XDG_RUNTIME_DIR": str(home),
             "PATH": f"{home}:{os.environ['PATH']}",
             "DBUS_SESSION_BUS_ADDRESS": "disabled:",
+            "GSETTINGS_BACKEND": "memory",
             "QT_QPA_PLATFORM": "xcb",
             "SDL_AUDIODRIVER": "disk",
             "SDL_DISKAUDIOFILE": str(self.loudspeaker),
@@ -64,7 +65,9 @@ class Desktop:
 
     def xdotool(self, *words):
         """What the command prints; nothing if it fails."""
-        command = ["xdotool", *map(str, words)]
+        return self.run("xdotool", *map(str, words))
+
+    def run(self, *command):
         return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=PATIENCE).stdout
 
     def screenshot(self, area=None):

@@ -1,0 +1,175 @@
+#!/usr/bin/python3 -B
+"""Plays the real program without a pointer: by keyboard alone, and as a screen reader does; and on finer screens."""
+import contextlib
+import random
+
+import numpy as np
+from PIL import Image
+
+import model
+from case import PROGRAM, Case, main
+from desktop import PATIENCE, wait_for
+from player import CELL_PIXELS, COLOURS, Player
+from screen_reader import ScreenReader
+
+SMALL = "Col=8\nLig=14\nSon=0\n"
+
+
+class Accessible(Case):
+    @contextlib.contextmanager
+    def reader(self):
+        with self.desktop() as desktop:
+            reader = ScreenReader(desktop)
+            yield reader, Player(desktop, PROGRAM, SMALL)
+
+    def test_keyboard(self):
+        with self.player(SMALL) as player:
+            board = player.board()
+            while not (presses := model.game_ending_with(1, board)):
+                player.act("key", "F2")
+                board = wait_for("a new board", lambda: (now := player.board()) != board and "?" not in "".join(now) and now)
+            player.act("key", "Up")  # shows the cursor at the left of the lowest row
+            at, score = (0, 13), 0
+            for cell in presses:
+                across, down = cell[0] - at[0], cell[1] - at[1]
+                keys = ["Right" if across > 0 else "Left"] * abs(across) + ["Down" if down > 0 else "Up"] * abs(down)
+                line = player.balls_left_line()
+                player.act("key", *keys, "space")
+                wait_for(f"{cell} pressed on\n{model.text(board)}", lambda: player.balls_left_line() != line)
+                score += model.points(len(model.group(board, cell)))
+                board, at = model.without(board, model.group(board, cell)), cell
+            wait_for("the end of the game", lambda: player.stored()["0"] == str(score))
+            wait_for("its panel", lambda: "?" in "".join(player.board()))
+            player.act("key", "Escape", "key", "Tab")  # beyond the board, where the cursor does not show
+            player.expect_board(board, "the panel was left")
+            player.act("key", "F1")
+            player.leave_about(player.expect_window("About", lambda window: window not in (None, player.window)),
+                               "key", "Return")
+            player.act("key", "ctrl+r", "key", "ctrl+q")
+            self.assertEqual(player.process.wait(PATIENCE), 0)
+            self.assertEqual(player.stored()["0"], "0")
+
+    def test_screen_reader(self):
+        with self.reader() as (reader, player):
+            while not (presses := model.game_ending_with(1, board := reader.board())):
+                reader.press(reader.find("push button", "Nouvelle"))
+                reader.wait_to_hear("Il reste 112 balles sur 112.")
+            reader.find("table")[0].queryComponent().grabFocus()
+            wait_for("the focus", lambda: reader.listen() or any("ligne 1, colonne 1," in it for it in reader.heard))
+            player.act("key", "Right")
+            wait_for("its move", lambda: reader.listen() or any("ligne 1, colonne 2," in it for it in reader.heard))
+            score, left = 0, 112
+            for cell in presses:
+                sizes = {ball: len(balls) for balls in model.groups(board) for ball in balls}
+                for (x, y), said in reader.cells().items():
+                    self.assertEqual(said, (board[x][y], sizes.get((x, y), 0)), f"{x, y} of\n{model.text(board)}")
+                table = reader.find("table")
+                for idle in [ball for ball in reader.cells() if sizes.get(ball, 0) < 2][:2]:
+                    reader.press(table.queryTable().getAccessibleAt(idle[1], idle[0]))
+                group = model.group(board, cell)
+                score, left = score + model.points(len(group)), left - len(group)
+                reader.heard.clear()
+                reader.press(table.queryTable().getAccessibleAt(cell[1], cell[0]))
+                reader.wait_to_hear(f"{len(group)} balles crevées ({model.points(len(group))} points.)",
+                                    f"Il reste {left} balles sur 112.", *["Terminé, Meilleur score !!!"] * (left == 1))
+                board = model.without(board, group)
+            self.assertEqual(player.stored()["0"], str(score))
+            reader.press(reader.find("notification", "Terminé"))
+            wait_for("the panel gone", lambda: reader.listen() or not any("Terminé" in it.name for it in reader.all()))
+            self.assertEqual(reader.board(), board)
+            self.assertEqual(self.said_of(reader, "push button"), {
+                "Nouvelle": ("Recommencer une partie", "F2"), "Quitter": ("Quitter la partie", "Ctrl+Q"),
+                "Zéro": ("Remettre à zéro le meilleur score de ce niveau de difficulté.", "Ctrl+R"),
+                "Aide": ("A Propos / Aide", "F1")})
+            self.assertTrue(reader.find("text", "Colonnes").queryText().getText(0, -1) == "8" and
+                            reader.find("text", "Lignes").queryText().getText(0, -1) == "14")
+            reader.press(reader.find("push button", "Aide"))
+            reader.find("link")
+            self.assertEqual(self.said_of(reader, "link"), {
+                "Coucou !!!": ("Envoyer un mail a l'auteur", ""), "Site de l'auteur": ("Plein d'autres jeux", ""),
+                "Retour": ("", "")})
+            reader.press(reader.find("link", "Retour"))
+            reader.press(reader.find("push button", "Zéro"))
+            reader.press(reader.find("push button", "Quitter"))
+            self.assertEqual(player.process.wait(PATIENCE), 0)
+            self.assertEqual(player.stored()["0"], "0")
+
+    def said_of(self, reader, role):
+        controls = [it for it in reader.all() if it.getRoleName() == role]
+        return {it.name: (it.description, it.queryAction().getKeyBinding(0)) for it in controls}
+
+    def test_screen_reader_fuzz(self):
+        with self.reader() as (reader, player):
+            chance = random.Random(4)
+            numbers = [-2**31, -113, -1, 0, 1, 7, 8, 13, 14, 111, 112, 5000, 2**31 - 1]
+            queries = {
+                "queryTable": ("getAccessibleAt 2", "getIndexAt 2", "getRowAtIndex 1", "getColumnAtIndex 1",
+                               "getRowDescription 1", "getColumnDescription 1", "getRowHeader 1", "getColumnHeader 1",
+                               "getRowExtentAt 2", "getColumnExtentAt 2", "isSelected 2", "isRowSelected 1",
+                               "addRowSelection 1", "removeColumnSelection 1", "getSelectedRows 0",
+                               "getRowColumnExtentsAtIndex 1"),
+                "queryTableCell": ("get_position 0", "get_row_span 0", "get_table 0"),
+                "queryAction": ("doAction 1", "getName 1", "getDescription 1", "getKeyBinding 1"),
+                "queryComponent": ("getAccessibleAtPoint 2", "grabFocus 0"),
+                "queryText": ("getText 2", "getCharacterAtOffset 1", "setCaretOffset 1", "addSelection 2",
+                              "removeSelection 1"),
+                None: ("getChildAtIndex 1", "getIndexInParent 0", "getState 0", "getRelationSet 0", "get_attributes 0"),
+            }
+            asked = 0
+            while asked < 10_000:
+                self.assertIsNone(player.process.poll(), f"the program ended after {asked} queries")
+                with contextlib.suppress(reader.glib.Error, NotImplementedError, LookupError, AttributeError):
+                    if asked % 500 == 0:
+                        asked += 1
+                        reader.listen()
+                        known = list(reader.all())
+                        table = next(it for it in known if it.getRoleName() == "table")
+                        known += [table] * 50 + list(table)[::3]
+                        # Soon the board has another size than the cells that are known.
+                        reader.find("text", "Colonnes").queryEditableText().setTextContents(str(chance.randint(8, 12)))
+                        reader.press(reader.find("push button", "Nouvelle"))
+                    it = chance.choice(known)
+                    interface = chance.choice(list(queries))
+                    call, arguments = chance.choice(queries[interface]).split()
+                    if call == "doAction" and it.name in ("Quitter", "Coucou !!!"):
+                        continue
+                    queried = it if interface is None else getattr(it, interface)()
+                    place = [reader.atspi.DESKTOP_COORDS] if call.endswith("AtPoint") else []
+                    asked += 1
+                    getattr(queried, call)(*chance.choices(numbers, k=int(arguments)), *place)
+            while (windows := reader.windows()) and not any(it.getRoleName() == "table" for it in reader.all()):
+                reader.press(reader.find("link", "Retour"))
+            self.assertTrue(windows)
+            reader.press(reader.find("push button", "Quitter"))
+            self.assertEqual(player.process.wait(PATIENCE), 0)
+
+    def test_scales(self):
+        looks = {}
+        for scale in (1, 1.25, 1.5, 1.75, 2, 3):
+            session = {"QT_SCALE_FACTOR": str(scale)}
+            with self.subTest(scale=scale), self.desktop(2400, 1600, session=session) as desktop:
+                (desktop.home / f"{PROGRAM.stem}.ini").write_text("[init]\nNiveau=4\nCol=25\nLig=20\n")
+                desktop.start(PROGRAM)
+                window = wait_for("the window", lambda: desktop.xdotool("search", "--onlyvisible", "^Zampotine$"))
+                desktop.xdotool("windowmove", "--sync", window.strip(), 0, 0)
+                size = (738, 467)
+                fine = tuple(round(length * scale) for length in size)
+
+                def look():
+                    shown = desktop.screenshot((0, 0, *fine)).convert("RGB")
+                    scaled = np.array(shown.resize(size, Image.Resampling.BOX)).astype(int)
+                    cells = scaled[33:433, 33:533].reshape(20, 20, 25, 20, 3).swapaxes(1, 2)
+                    off = [abs(cells - CELL_PIXELS[ball]).mean((2, 3, 4)) for ball in COLOURS]
+                    return (np.array(shown), scaled) if np.min(off, 0).max() < 12 else None
+
+                shown, scaled = wait_for("every ball much like its picture", look)
+                scaled[33:433, 33:533] = 0
+                difference = abs(scaled - looks.setdefault("first", scaled))
+                self.assertLess(difference.mean(), 1.5, "scaled down, it looks as at 100 %")
+                edge = round(17 * scale)
+                for strip in (shown[:edge], shown[-edge:], shown.swapaxes(0, 1)[:edge], shown.swapaxes(0, 1)[-edge:]):
+                    self.assertEqual(np.ptp(strip[:, edge:-edge], 1).max(), 0, "a seam between pieces of the border")
+
+
+if __name__ == "__main__":
+    main()

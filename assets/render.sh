@@ -1,5 +1,5 @@
 #!/bin/bash
-# Renders every picture of the game from the SVG sources.
+# Renders every picture of the game, and the icons of the desktop, from the SVG sources.
 # Needs librsvg2-bin, imagemagick and icoutils; the results are the same byte for byte every time.
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -58,4 +58,12 @@ render zampotine 32 32 |
     convert png:- -channel A -threshold 50% +channel +dither -remap "$work/palette.png" "$work/zampotine.png"
 for name in help zampotine; do
     icotool --create --output "pictures/$name.ico" "$work/$name.png"
+done
+
+# For the desktop: edges that are blended with any ground, and no chunk but the pixels.
+mkdir -p icons
+for size in 16 22 24 32 48 64 128 256 512; do
+    rsvg-convert --width $size --height $size sources/zampotine.svg |
+        convert png:- -depth 8 -strip -define png:compression-level=9 -define png:compression-filter=5 \
+            -define png:exclude-chunks=all "PNG32:icons/$size.png"
 done

@@ -20,7 +20,7 @@ namespace {
 // Where a sound is looked for, the first place first.
 std::vector<std::filesystem::path> soundFolders() {
     const std::filesystem::path program = QCoreApplication::applicationDirPath().toStdString();
-    return {".", program, program / ".." / "share" / "zampotine" / "sounds"};
+    return {".", program, program / ZAMPOTINE_DATA_FOLDER / "zampotine" / "sounds"};
 }
 
 // In the pixels of the finest screen.

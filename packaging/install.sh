@@ -8,10 +8,12 @@ cd "$(dirname "$0")/.."
 declare -A packages=(
     [build]='g++ cmake ninja-build pkgconf qt6-base-dev libsdl2-dev librsvg2-dev'
     [game]='fonts-liberation x11-utils'
+    [package]='dpkg-dev file'
     [wayland]='qt6-wayland wayland-utils'
     [screen]='xvfb openbox xdotool x11-utils imagemagick'
-    [tests]="libgtest-dev xvfb openbox xdotool x11-utils imagemagick python3 python3-pil python3-numpy dbus-bin dbus-daemon at-spi2-core python3-pyatspi \
-             weston qt6-wayland qt6-gtk-platformtheme x11-xserver-utils"
+    [tests]='libgtest-dev xvfb openbox xdotool x11-utils imagemagick python3 python3-pil python3-numpy'
+    [desktops]='weston qt6-wayland qt6-gtk-platformtheme x11-xserver-utils dbus-bin dbus-daemon at-spi2-core python3-pyatspi'
+    [validators]='appstream desktop-file-utils lintian man-db reuse'
     [asan]='clang libclang-rt-14-dev llvm'
     [lint]='clang-format-14 clang-tidy-14 shellcheck pyflakes3'
     [art]='librsvg2-bin imagemagick icoutils sox'

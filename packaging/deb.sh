@@ -1,0 +1,16 @@
+#!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
+# Builds the Debian package: the same byte for byte in every folder, unless SOURCE_DATE_EPOCH gives it another date.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+# shellcheck source=packaging/steps.sh
+. packaging/steps.sh
+
+packaging/install.sh build package
+packaging/build.sh deb
+say "Packaging."
+rm -f build/deb/zampotine_*.deb
+logged deb-package cpack --preset deb || fail "The package could not be made (all of it in build/deb-package.log)."
+say "The package is $(echo build/deb/zampotine_*.deb)."

@@ -1,0 +1,11 @@
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
+# Everything in the package is as old as the release, so that it comes out the same whenever it is built.
+if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
+  execute_process(
+    COMMAND date --utc --date=${CPACK_ZAMPOTINE_RELEASE_DATE} +%s
+    OUTPUT_VARIABLE seconds
+    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  set(ENV{SOURCE_DATE_EPOCH} ${seconds})
+endif()

@@ -60,7 +60,7 @@ class BoardTable : public QAccessibleWidget, public QAccessibleTableInterface {
         return index < 0 || index >= childCount() ? nullptr : cellAt(index / columns, index % columns);
     }
     int indexOfChild(const QAccessibleInterface* child) const override {
-        auto* cell = const_cast<QAccessibleInterface*>(child)->tableCellInterface();
+        const auto* cell = dynamic_cast<const BoardCell*>(child);
         return cell == nullptr ? -1 : cell->rowIndex() * columnCount() + cell->columnIndex();
     }
     QAccessibleInterface* childAt(int x, int y) const override {

@@ -20,8 +20,8 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Neither shows in the program: the sound library is loaded at run time, and a font is data.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libsdl2-2.0-0, fonts-liberation")
+# None of them shows in the program: libraries are loaded when they are first used, and a font is data.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libsdl2-2.0-0, librsvg2-2, fonts-liberation")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "puzzle of coloured balls")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION

@@ -39,7 +39,7 @@ class Packaging(unittest.TestCase):
         cls.folder = pathlib.Path(cls.enterClassContext(tempfile.TemporaryDirectory(dir=BUILD)))
         os.environ.pop("SOURCE_DATE_EPOCH", None)
         subprocess.run([ROOT / "packaging/deb.sh"], check=True)
-        cls.package = ROOT / f"build/deb/zampotine_{VERSION}_amd64.deb"
+        cls.package = next((ROOT / "build/deb").glob(f"zampotine_{VERSION}_*.deb"))
         subprocess.run(["dpkg-deb", "--extract", cls.package, cls.folder / "deb"], check=True)
         cls.share = cls.folder / "deb/usr/share"
 

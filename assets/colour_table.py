@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """Can players with any kind of sight tell the six balls apart?
 
 Prints for each folder of pictures the colour difference (CIEDE2000) of every pair of balls, by mean

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 # Renders every picture of the game, and the icons of the desktop, from the SVG sources.
 # Needs librsvg2-bin, imagemagick and icoutils; the results are the same byte for byte every time.
 set -euo pipefail

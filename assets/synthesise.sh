@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 # Synthesises the five sounds: bubbles that pop on marimba notes, climbing higher for bigger groups.
 # Needs sox; the results are the same byte for byte every time.
 set -euo pipefail

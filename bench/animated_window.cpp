@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // Shows one animation, or what the toolkit takes for as much: for measuring the processor time of it.
 //
 // Usage: animated_window panel|about|repainting WIDTH HEIGHT [hidden]

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // What the toolkit costs without a game: an empty window of the same size.
 
 #include <QApplication>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // The rules at work, each beside what it is compared with. bench/run.py prints the ratios.
 
 #include <benchmark/benchmark.h>

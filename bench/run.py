@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """Builds and runs the benchmarks and prints their ratios, each beside the bound that it should keep.
 
 Ratios compare things measured side by side in one run; nothing passes or fails by the clock.

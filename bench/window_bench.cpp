@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // A new game on the largest board, until it is painted, beside one repaint of the same board.
 
 #include <QApplication>

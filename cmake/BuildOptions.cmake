@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 # How every target of the project is compiled: linked privately, so that nothing leaks to users of a library.
 add_library(build_options INTERFACE)
 target_include_directories(build_options INTERFACE ${PROJECT_SOURCE_DIR})

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // What screen readers are told of the controls; the board speaks for itself.
 
 #include "mainwindow/balls.h"

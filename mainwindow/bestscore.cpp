@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // The best scores: their rule, their reset, and the labels that show them.
 
 #include "mainwindow/balls.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // The panel that shows at the end of a game.
 
 #include "mainwindow/balls.h"

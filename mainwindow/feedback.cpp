@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // What the mouse does beside playing: the window is dragged, buttons show that they are under it, and the best score
 // of the level under it is previewed.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // The About window, which takes the place of the main window while it is open.
 
 #include "about/about.h"

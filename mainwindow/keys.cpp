@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // What keys do beside those that the toolkit knows and those of the board.
 
 #include <QCheckBox>

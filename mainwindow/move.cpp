@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // A press on the board, and what its move shows and plays.
 
 #include "rules/move.h"

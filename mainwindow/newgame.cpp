@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // The new-game sequence: the board is sized, dealt and laid out.
 
 #include <algorithm>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // How the window starts and ends: the settings that it loads and stores.
 
 #include <climits>

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 # Configures and builds one preset, with more options of CMake if need be: packaging/build.sh release
 set -euo pipefail
 cd "$(dirname "$0")/.."

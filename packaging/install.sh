@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 # Installs the Debian packages of the named purposes, as far as they are missing: packaging/install.sh build game
 set -euo pipefail
 cd "$(dirname "$0")/.."

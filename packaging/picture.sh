@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 # Shows the game on a virtual display and saves a picture of its window: packaging/picture.sh PROGRAM PICTURE
 set -euo pipefail
 cd "$(dirname "$0")/.."

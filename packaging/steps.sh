@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 # shellcheck shell=bash
 # How the project's scripts speak: one sentence a step, the noise in a log, and on failure what to do.
 

@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """Checks the formats, sizes and joins of the pictures, and the length, level and ends of the sounds.
 
 Usage: assets_test.py [ASSETS_FOLDER]

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 // Draws the balls at the scales of screens, for the colours to be looked at: draw_balls FOLDER
 // One picture each: FOLDER/1.25/ir.png.
 

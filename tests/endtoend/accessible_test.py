@@ -1,4 +1,7 @@
 #!/usr/bin/python3 -B
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """Plays the real program without a pointer: by keyboard alone, and as a screen reader does; and on finer screens."""
 import contextlib
 import random

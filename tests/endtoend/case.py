@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """What the test programs share: how they are called, and a player at a desktop of its own.
 
 Usage of each: PROGRAM FOLDER [TEST...], where FOLDER takes the screenshots of failures.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """A screen of its own with a window manager, a loudspeaker and a player's home folder that is thrown away."""
 import os
 import pathlib

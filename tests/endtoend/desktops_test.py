@@ -1,4 +1,7 @@
 #!/usr/bin/python3 -B
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """Shows the real program at home on desktops of many kinds."""
 import re
 import time

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """The rules of the game on plain text, for predicting what the program must show.
 
 A board is a tuple of columns from left to right, each a text from top to bottom with one character per cell:

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """A player at the running program: sees its window as pixels and works it with pointer and keys."""
 import contextlib
 import pathlib

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """A screen reader at the running program: knows its windows only by what they say of themselves."""
 import contextlib
 import importlib

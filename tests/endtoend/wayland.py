@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
 """A player on Wayland: the compositor shows its whole screen as one window of the X display."""
 import time
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 #include "tests/mainwindow/world.h"
 
 namespace mainwindow {

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
 #include "platform/picture_box.h"
 #include "tests/mainwindow/world.h"
 

@@ -80,8 +80,8 @@ class BoardTable : public QAccessibleWidget, public QAccessibleTableInterface {
     }
     int columnCount() const override { return cursor.board().NbCol; }
     int rowCount() const override { return cursor.board().NbLig; }
-    QString columnDescription(int column) const override { return u"colonne %1"_s.arg(column + 1); }
-    QString rowDescription(int row) const override { return u"ligne %1"_s.arg(row + 1); }
+    QString columnDescription(int column) const override { return u"colonne %1"_s.arg(column + 1LL); }
+    QString rowDescription(int row) const override { return u"ligne %1"_s.arg(row + 1LL); }
     QAccessibleInterface* caption() const override { return nullptr; }
     QAccessibleInterface* summary() const override { return nullptr; }
 

@@ -4,7 +4,6 @@
 // The panel that shows at the end of a game.
 
 #include "mainwindow/balls.h"
-#include "platform/accessible.h"
 #include "platform/label.h"
 #include "platform/look.h"
 #include "rules/random.h"
@@ -30,7 +29,6 @@ void balls::ShowEndPanel() {
     Label7->setVisible(best <= static_cast<double>(game.score));
     // Its own name, for screen readers, is what can be read in it.
     Frame1->setAccessibleName(Label1->text() + (Label7->isVisible() ? u", "_s + Label7->text() : QString()));
-    platform::announce(*Frame1);
     endBalls->start(rules::Random(rules::seedFromClock()));
 }
 

@@ -36,7 +36,6 @@ void balls::connectKeys() {
     setTabOrder(Option1[0], Text1[1]);
     setTabOrder(Text1[1], Text1[0]);
     setTabOrder(Text1[0], Check1);
-    setTabOrder(Check1, cursor);
 }
 
 }  // namespace mainwindow

@@ -61,21 +61,25 @@ class Accessible(Case):
             wait_for("the focus", lambda: reader.listen() or any("ligne 1, colonne 1," in it for it in reader.heard))
             player.act("key", "Right")
             wait_for("its move", lambda: reader.listen() or any("ligne 1, colonne 2," in it for it in reader.heard))
-            score, left = 0, 112
+            score, left, cells = 0, 112, reader.cells()
             for cell in presses:
-                sizes = {ball: len(balls) for balls in model.groups(board) for ball in balls}
-                for (x, y), said in reader.cells().items():
-                    self.assertEqual(said, (board[x][y], sizes.get((x, y), 0)), f"{x, y} of\n{model.text(board)}")
                 table = reader.find("table")
-                for idle in [ball for ball in reader.cells() if sizes.get(ball, 0) < 2][:2]:
+                for idle in [place for place, (_, size) in cells.items() if size < 2][:2]:
                     reader.press(table.queryTable().getAccessibleAt(idle[1], idle[0]))
                 group = model.group(board, cell)
                 score, left = score + model.points(len(group)), left - len(group)
-                reader.heard.clear()
+                board, before = model.without(board, group), cells
                 reader.press(table.queryTable().getAccessibleAt(cell[1], cell[0]))
                 reader.wait_to_hear(f"{len(group)} balles crevées ({model.points(len(group))} points.)",
                                     f"Il reste {left} balles sur 112.", *["Terminé, Meilleur score !!!"] * (left == 1))
-                board = model.without(board, group)
+                cells = reader.cells()
+                reader.listen()
+                told = set(reader.heard)
+                sizes = {ball: len(balls) for balls in model.groups(board) for ball in balls}
+                for (x, y), said in cells.items():
+                    self.assertEqual(said, (board[x][y], sizes.get((x, y), 0)), f"{x, y} of\n{model.text(board)}")
+                    if said != before[x, y]:
+                        self.assertIn(f"now: {table.queryTable().getAccessibleAt(y, x).name}", told)
             self.assertEqual(player.stored()["0"], str(score))
             reader.press(reader.find("notification", "Terminé"))
             wait_for("the panel gone", lambda: reader.listen() or not any("Terminé" in it.name for it in reader.all()))

@@ -26,14 +26,15 @@ class ScreenReader:
         # It connects to the bus when it is imported.
         self.atspi = importlib.import_module("pyatspi")
         self.glib = importlib.import_module("gi.repository.GLib")
-        self.heard = []  # announcements, and cells that got the focus
+        self.heard = []  # announcements, and cells that got the focus or changed
         self.atspi.Registry.registerEventListener(self._hear, "object:state-changed:showing",
-                                                  "object:state-changed:focused")
+                                                  "object:state-changed:focused",
+                                                  "object:property-change:accessible-name")
 
     def _hear(self, event):
         with contextlib.suppress(self.glib.Error):  # it may be gone by now
-            if event.detail1 and event.source.getRoleName() in ("notification", "table cell"):
-                self.heard.append(event.source.name)
+            if (event.detail1 or "name" in event.type) and event.source.getRoleName() in ("notification", "table cell"):
+                self.heard.append(("now: " if "name" in event.type else "") + event.source.name)
 
     def listen(self):
         while self.glib.MainContext.default().iteration(False):
@@ -44,7 +45,6 @@ class ScreenReader:
             self.listen()
             return all(sentence in self.heard for sentence in sentences)
         wait_for(f"{sentences}, after {self.heard},", heard)
-        self.heard.clear()
 
     def windows(self):
         return [window for program in self.atspi.Registry.getDesktop(0) for window in program]
@@ -67,6 +67,8 @@ class ScreenReader:
         return wait_for(f"{role} {name}", found)
 
     def press(self, control):
+        """Presses, and forgets what was heard before."""
+        self.heard.clear()
         action = control.queryAction()
         action.doAction([action.getName(k) for k in range(action.nActions)].index("Press"))
 

@@ -97,6 +97,7 @@ TEST(Keyboard, EveryCommandHasAKey) {
     world.key(Qt::Key_F1);
     EXPECT_FALSE(world.window->isVisible()) << "the About window takes its place";
     ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), u"Label1(0)"_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_TRUE(world.window->isVisible()) << "and is left by the link that has the focus";
     ASSERT_TRUE(QTest::qWaitForWindowActive(world.window.get()));

@@ -18,6 +18,7 @@
 #include "platform/label.h"
 #include "platform/mouse.h"
 #include "platform/pixel_painter.h"
+#include "platform/screen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +47,7 @@ About::About(const platform::Box& screen, const animation::Draw& draw, std::func
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFixedSize(background.size());
+    platform::keepSizeOnEveryScreen(*this);
     move(platform::toPixels(screen.Left + (screen.Width - platform::toTwips(width())) / 2),
          platform::toPixels(screen.Top + (screen.Height - platform::toTwips(height())) / 2));
     platform::setAccessibleRole(*this, {.role = QAccessible::Window});
@@ -66,7 +68,18 @@ About::About(const platform::Box& screen, const animation::Draw& draw, std::func
         platform::onMove(*label, [this, k] { Label2_MouseMove(k); });
         ++k;
     }
+    describe();
     AnimateAbout(draw);
+}
+
+// A screen reader reads the rules of the game when the window opens.
+void About::describe() {
+    QStringList paragraphs;
+    for (const platform::Label* label : Label2) {
+        paragraphs += label->text();
+    }
+    setAccessibleName(u"A Propos / Aide"_s);
+    setAccessibleDescription(paragraphs.join(u'\n'));
 }
 
 void About::AnimateAbout(const animation::Draw& draw) {
@@ -111,6 +124,9 @@ void About::closeEvent(QCloseEvent* event) {
 
 void About::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
+    if (event->isAutoRepeat()) {
+        return;
+    }
     if (key == Qt::Key_Escape) {
         close();
     } else if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {

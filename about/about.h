@@ -38,6 +38,7 @@ class About : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void describe();
     void AnimateAbout(const animation::Draw& draw);
     void Form_MouseMove();
     void Label1_MouseMove(int Index);

@@ -9,6 +9,7 @@
 #include <QWindow>
 
 #include "platform/controls.h"
+#include "platform/pixel_painter.h"
 #include "platform/twips.h"
 
 using Clock = std::chrono::steady_clock;
@@ -74,7 +75,7 @@ void BouncingPictures::advance(int passes) {
         const QPoint place(platform::toPixels(balls[k].PosX), platform::toPixels(balls[k].PosY));
         const QRect before = pictures[k]->geometry();
         // One area for each ball is painted sooner than the corners of two.
-        field.update(before | QRect(place, before.size()));
+        field.update(platform::withReach(field, before | QRect(place, before.size())));
         pictures[k]->move(place);
     }
 }

@@ -20,6 +20,7 @@
 #include "platform/mouse.h"
 #include "platform/picture_box.h"
 #include "platform/pixel_painter.h"
+#include "platform/screen.h"
 #include "platform/text_box.h"
 
 using namespace Qt::StringLiterals;
@@ -31,12 +32,14 @@ balls::balls(Surroundings world)
       surroundings(std::move(world)),
       bestScores(surroundings.store) {
     setWindowTitle(u"Zampotine"_s);
+    platform::keepSizeOnEveryScreen(*this);
     cursor = new BoardCursor(*this, game.board, [this](rules::CellIndex i) { play(i); });
     platform::buildControls(controlsInWindow(), *this, assets::picture);
     bindControls();
     connectControls();
     connectMouse();
     connectKeys();
+    orderTabStops();
     describeControls();
     Form_Load();
 }
@@ -99,9 +102,7 @@ void balls::connectControls() {
 
 void balls::paintEvent(QPaintEvent* event) {
     platform::PixelPainter painter(*this);
-    for (const QRect& area : event->region()) {
-        c.draw(painter, game.board, area);
-    }
+    c.draw(painter, game.board, event->region());
     frame.draw(painter);
 }
 

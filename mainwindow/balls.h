@@ -133,6 +133,7 @@ class balls : public QWidget, private rules::Host {
 
     // keys, accessibility
     void connectKeys();
+    void orderTabStops();
     void describeControls();
 
     // help

@@ -8,7 +8,6 @@
 
 #include "mainwindow/boardcursor.h"
 #include "mainwindow/boardgeometry.h"
-#include "rules/groups.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,21 +34,13 @@ QString describeContent(rules::Code code) {
     }
 }
 
-}  // namespace
-
-int GroupSizes::at(const rules::Board& board, rules::CellIndex i) {
-    if (counted != board) {
-        counted = board;
-        sizes = rules::groupSizes(board);
-    }
-    return sizes[i];
-}
-
-QString describeCell(const rules::Board& board, rules::CellIndex i, int group) {
+QString describe(const rules::Board& board, rules::CellIndex i, int group) {
     const auto [col, row] = board.positionOf(i);
     const QString place = u"%1, ligne %2, colonne %3"_s.arg(describeContent(board[i])).arg(row + 1).arg(col + 1);
     return group == 0 ? place : place + u", groupe de %1"_s.arg(group);
 }
+
+}  // namespace
 
 bool BoardCell::isValid() const {
     return cursor.board().contains(index);
@@ -78,12 +69,12 @@ QAccessible::State BoardCell::state() const {
 }
 
 QString BoardCell::text(QAccessible::Text kind) const {
-    return kind == QAccessible::Name ? said = name() : QString();
+    return kind == QAccessible::Name ? lastTold = name() : QString();
 }
 
 QString BoardCell::name() const {
     const rules::Board& board = cursor.board();
-    return isValid() ? describeCell(board, index, groups.at(board, index)) : QString();
+    return isValid() ? describe(board, index, groups.at(board, index)) : QString();
 }
 
 void* BoardCell::interface_cast(QAccessible::InterfaceType type) {
@@ -112,7 +103,7 @@ QStringList BoardCell::actionNames() const {
 void BoardCell::doAction(const QString& action) {
     // The screen reader gets its answer first: a move may last.
     QTimer::singleShot(0, &cursor, [&board = cursor, i = index, press = action == pressAction()] {
-        if (!board.board().contains(i)) {
+        if (!board.isVisible() || !board.board().contains(i)) {
             return;
         }
         if (press) {

@@ -3,40 +3,24 @@
 
 #pragma once
 
-#include <vector>
-
 #include <QAccessible>
 
-#include "rules/board.h"
+#include "rules/groups.h"
 
 namespace mainwindow {
 
 class BoardCursor;
 
-/// The sizes of all groups of a board, counted anew only when the board has changed: screen readers ask for one cell
-/// after the other.
-class GroupSizes {
-  public:
-    /// The size of the group of cell i, which must be a cell of the board.
-    int at(const rules::Board& board, rules::CellIndex i);
-
-  private:
-    rules::Board counted;
-    std::vector<int> sizes;
-};
-
-/// What cell i of a board says to a screen reader: what it holds, where it is and how many balls a press on it would
-/// concern. `group` is the size of its group.
-QString describeCell(const rules::Board& board, rules::CellIndex i, int group);
-
-/// A cell of the board as screen readers know it. Its press action presses it as a key does.
+/// A cell of the board as screen readers know it: what it holds, where it is and how large its group is. Its press
+/// action presses it as a key does.
 class BoardCell : public QAccessibleInterface, public QAccessibleTableCellInterface, public QAccessibleActionInterface {
   public:
     /// i is a cell of the board; if the board gets smaller, the interface turns invalid.
-    BoardCell(BoardCursor& board, GroupSizes& sizes, rules::CellIndex i) : cursor(board), groups(sizes), index(i) {}
+    BoardCell(BoardCursor& board, rules::GroupSizes& sizes, rules::CellIndex i)
+        : cursor(board), groups(sizes), index(i) {}
 
     /// Whether the name is another one than a screen reader was told last.
-    bool saysOtherwise() const { return name() != said; }
+    bool saysOtherwise() const { return name() != lastTold; }
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }
@@ -70,9 +54,9 @@ class BoardCell : public QAccessibleInterface, public QAccessibleTableCellInterf
     QString name() const;
 
     BoardCursor& cursor;
-    GroupSizes& groups;
+    rules::GroupSizes& groups;
     rules::CellIndex index;
-    mutable QString said;
+    mutable QString lastTold;
 };
 
 }  // namespace mainwindow

@@ -18,7 +18,10 @@ using namespace Qt::StringLiterals;
 namespace mainwindow {
 namespace {
 
-constexpr int reach = 3;  // how far the ring stands out beyond its cell, in pixels
+// The ring, in pixels: its middle lies that far outside of its cell.
+constexpr int distance = 1;
+constexpr int breadth = 4;
+constexpr int reach = distance + breadth / 2;
 
 }  // namespace
 
@@ -37,7 +40,7 @@ void BoardCursor::fitBoard() {
 }
 
 rules::CellIndex BoardCursor::cell() const {
-    return static_cast<rules::CellIndex>(place.col * shownBoard.NbLig + place.row);
+    return shownBoard.indexOf(place);
 }
 
 void BoardCursor::moveTo(rules::CellIndex cell) {
@@ -48,7 +51,8 @@ void BoardCursor::moveTo(rules::CellIndex cell) {
 
 // The filter is there while the cursor shows.
 bool BoardCursor::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress) {
+    if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress ||
+        event->type() == QEvent::Wheel) {
         setShown(false);
     }
     return QWidget::eventFilter(watched, event);
@@ -131,8 +135,9 @@ void BoardCursor::paintEvent(QPaintEvent*) {
     constexpr double rounding = 4;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF ring = QRectF(cellArea(shownBoard, cell()).translated(-pos())).adjusted(-1, -1, 1, 1);
-    for (const auto& [colour, width] : {std::pair{Qt::black, 4}, std::pair{Qt::white, 2}}) {
+    const QRectF ring =
+        QRectF(cellArea(shownBoard, cell()).translated(-pos())).adjusted(-distance, -distance, distance, distance);
+    for (const auto& [colour, width] : {std::pair{Qt::black, breadth}, std::pair{Qt::white, breadth / 2}}) {
         painter.setPen(QPen(colour, width));
         painter.drawRoundedRect(ring, rounding, rounding);
     }

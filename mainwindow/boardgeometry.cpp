@@ -35,7 +35,7 @@ std::optional<rules::CellIndex> cellAt(const rules::Board& board, QPoint point) 
     if (cell.isEmpty()) {
         return std::nullopt;
     }
-    return static_cast<rules::CellIndex>(cell.x() * board.NbLig + cell.y());
+    return board.indexOf({cell.x(), cell.y()});
 }
 
 QRect cellsTouching(const rules::Board& board, const QRect& area) {

@@ -75,8 +75,7 @@ class BoardTable : public QAccessibleWidget, public QAccessibleTableInterface {
     // The toolkit does not survive an answer without a cell.
     QAccessibleInterface* cellAt(int row, int column) const override {
         const rules::Board& board = cursor.board();
-        const int nearest = std::clamp(column, 0, board.NbCol - 1) * board.NbLig + std::clamp(row, 0, board.NbLig - 1);
-        return cell(static_cast<rules::CellIndex>(nearest));
+        return cell(board.indexOf({std::clamp(column, 0, board.NbCol - 1), std::clamp(row, 0, board.NbLig - 1)}));
     }
     int columnCount() const override { return cursor.board().NbCol; }
     int rowCount() const override { return cursor.board().NbLig; }
@@ -108,7 +107,7 @@ class BoardTable : public QAccessibleWidget, public QAccessibleTableInterface {
     }
 
     BoardCursor& cursor;
-    mutable GroupSizes sizes;
+    mutable rules::GroupSizes sizes;
     mutable std::map<rules::CellIndex, BoardCell*> cells;
     int columnsBefore = cursor.board().NbCol;
     int rowsBefore = cursor.board().NbLig;

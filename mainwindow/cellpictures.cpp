@@ -55,11 +55,14 @@ void CellPictures::showAll(const rules::Board& board) {
     }
 }
 
-void CellPictures::draw(platform::PixelPainter& painter, const rules::Board& board, const QRect& area) const {
-    const QRect cells = cellsTouching(board, area);
+void CellPictures::draw(platform::PixelPainter& painter, const rules::Board& board, const QRegion& region) const {
+    const QRect cells = cellsTouching(board, region.boundingRect());
     for (int col = cells.left(); col <= cells.right(); ++col) {
         for (int row = cells.top(); row <= cells.bottom(); ++row) {
-            platform::draw(painter, c[col * board.NbLig + row]);
+            const CellIndex i = board.indexOf({col, row});
+            if (region.intersects(cellArea(board, i))) {
+                platform::draw(painter, c[i]);
+            }
         }
     }
 }

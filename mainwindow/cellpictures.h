@@ -27,8 +27,8 @@ class CellPictures {
     /// Lets every cell show what it holds.
     void showAll(const rules::Board& board);
 
-    /// Draws the cells that an area of the window touches, in pixels.
-    void draw(platform::PixelPainter& painter, const rules::Board& board, const QRect& area) const;
+    /// Draws the cells that a region of the window touches, in pixels; each once, since edges are half transparent.
+    void draw(platform::PixelPainter& painter, const rules::Board& board, const QRegion& region) const;
 
   private:
     std::vector<platform::Picture> c;

@@ -73,7 +73,7 @@ void balls::highlight(int i) {
 
 // One hit test for all that the window paints itself, front to back: border, cells, background.
 void balls::mousePressEvent(QMouseEvent* event) {
-    const QPoint point = event->position().toPoint();
+    const QPoint point = platform::pixelUnder(*event);
     if (frame.contains(point)) {
         return;
     }
@@ -86,7 +86,7 @@ void balls::mousePressEvent(QMouseEvent* event) {
 
 // While a button is held, the pointer belongs to the cell or piece of the border that it was pressed on.
 void balls::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint point = event->position().toPoint();
+    const QPoint point = platform::pixelUnder(*event);
     if (event->buttons() == Qt::NoButton && !frame.contains(point) && !cellAt(game.board, point)) {
         Form_MouseMove();
     }

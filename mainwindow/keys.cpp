@@ -29,7 +29,10 @@ void balls::connectKeys() {
     for (const auto key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
         on(Frame1, key, [this] { Frame1_Click(); });
     }
+}
 
+// The board comes first of all, by its age.
+void balls::orderTabStops() {
     for (int k = 4; k > 0; --k) {
         setTabOrder(Option1[k], Option1[k - 1]);
     }

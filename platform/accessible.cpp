@@ -29,6 +29,12 @@ class Interface : public QAccessibleWidget {
         return isItsName ? label->text() : QAccessibleWidget::text(kind);
     }
 
+    // Without a text it would be read out as a notification of nothing.
+    QAccessible::Role role() const override {
+        const bool saysNothing = known.role == QAccessible::Notification && text(QAccessible::Name).isEmpty();
+        return saysNothing ? QAccessible::StaticText : known.role;
+    }
+
     QStringList actionNames() const override {
         return known.press == nullptr ? QStringList() : QStringList(pressAction());
     }
@@ -74,7 +80,7 @@ void setAccessibleRole(QWidget& control, AccessibleRole role) {
     QAccessible::installFactory(create);  // once, however often it is called
     new RoleOfParent(control, std::move(role));
     if (QAccessible::isActive()) {
-        // A screen reader may have asked already, and was given the toolkit's interface.
+        // Whatever the control has said of itself so far, the toolkit's interface has answered for it.
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&control)));
     }
 }

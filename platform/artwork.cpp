@@ -12,7 +12,7 @@ namespace platform {
 struct Artwork::Drawn {
     QPixmap natural;
     Draw draw;
-    std::vector<QPixmap> others;  // the last one asked for at the end
+    std::vector<QPixmap> others;  // the newest at the end
 };
 
 Artwork::Artwork(const QPixmap& natural, Draw draw)
@@ -23,11 +23,11 @@ QSize Artwork::size() const {
 }
 
 QPixmap Artwork::inPixels(QSize pixels) const {
-    if (pixels == size()) {
-        return shared->natural;
-    }
     if (shared == nullptr || pixels.isEmpty()) {
         return {};
+    }
+    if (pixels == size()) {
+        return shared->natural;
     }
     auto& others = shared->others;
     const auto found = std::ranges::find(others, pixels, &QPixmap::size);

@@ -7,6 +7,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QtMath>
 
 #include "platform/pixel_painter.h"
 
@@ -17,6 +18,22 @@ namespace {
 Qt::Alignment alignmentFor(const QLabel& label, const QFontMetrics& metrics) {
     const bool whole = metrics.ascent() + metrics.tightBoundingRect(label.text()).bottom() < label.height();
     return whole ? label.alignment() : (label.alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
+}
+
+constexpr int roomBelow = 3;  // pixels below a label in which excess letters are looked for
+
+// How many rows of a clear image there are down to the last one that is not blank.
+int rowsWithInk(const QImage& image) {
+    int rows = image.height();
+    const auto isBlank = [&](int row) {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a row of pixels
+        const auto* pixels = reinterpret_cast<const QRgb*>(image.constScanLine(row));
+        return std::all_of(pixels, pixels + image.width(), [](QRgb pixel) { return pixel == 0; });
+    };
+    while (rows > 0 && isBlank(rows - 1)) {
+        --rows;
+    }
+    return rows;
 }
 
 }  // namespace
@@ -50,19 +67,31 @@ void Label::paintEvent(QPaintEvent*) {
     if (look != drawnAs) {
         drawnAs = look;
         drawn = draw();
+        if (const QRect reached = withReach(*this, geometry()); reached != geometry()) {
+            parentWidget()->update(reached);
+        }
     }
     painter.draw({}, drawn);
 }
 
+// Letters drawn finer may reach further down than the metrics of the layout tell; the label's top has blank rows to
+// give.
 QPixmap Label::draw() const {
-    QPixmap picture(drawnAs.size);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
+    const QImage image = draw(0);
+    const int excess = rowsWithInk(image) - drawnAs.size.height();
+    return QPixmap::fromImage((excess > 0 ? draw(excess) : image).copy({QPoint(), drawnAs.size}));
+}
+
+QImage Label::draw(int raisedBy) const {
+    QImage image(drawnAs.size + QSize(0, qCeil(roomBelow * drawnAs.ratio)), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.translate(0, -raisedBy);
     painter.scale(drawnAs.ratio, drawnAs.ratio);
     painter.setPen(drawnAs.colour);
     painter.setFont(drawnAs.font);
     wordWrap() ? drawParagraph(painter) : drawLine(painter);
-    return picture;
+    return image;
 }
 
 void Label::drawParagraph(QPainter& painter) const {
@@ -74,7 +103,7 @@ void Label::drawParagraph(QPainter& painter) const {
 
 void Label::drawLine(QPainter& painter) const {
     painter.setFont(condensed(font(), text(), width()));
-    painter.drawText(rect(), static_cast<int>(alignmentFor(*this, painter.fontMetrics())), text());
+    painter.drawText(rect(), static_cast<int>(alignmentFor(*this, painter.fontMetrics())) | Qt::TextDontClip, text());
 }
 
 }  // namespace platform

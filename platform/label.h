@@ -37,6 +37,7 @@ class Label : public QLabel {
     };
 
     QPixmap draw() const;
+    QImage draw(int raisedBy) const;
     void drawParagraph(QPainter& painter) const;
     void drawLine(QPainter& painter) const;
 

@@ -7,6 +7,7 @@
 
 #include <QMouseEvent>
 #include <QWidget>
+#include <QtMath>
 
 namespace platform {
 namespace {
@@ -48,6 +49,10 @@ bool isLeft(const QEvent& event) {
 
 }  // namespace
 
+QPoint pixelUnder(const QMouseEvent& event) {
+    return {qFloor(event.position().x()), qFloor(event.position().y())};
+}
+
 void onPress(QWidget& control, std::function<void(const QMouseEvent&)> action) {
     listen(control, [action = std::move(action)](const QEvent& event) {
         if (isPress(event)) {
@@ -72,7 +77,7 @@ void onClick(QWidget& control, std::function<void()> action) {
         } else if (event.type() == QEvent::Hide) {
             pressed = false;
         } else if (event.type() == QEvent::MouseButtonRelease && isLeft(event) && std::exchange(pressed, false) &&
-                   control.rect().contains(asMouse(event).position().toPoint())) {
+                   control.rect().contains(pixelUnder(asMouse(event)))) {
             action();
         }
     });

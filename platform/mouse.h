@@ -5,10 +5,15 @@
 
 #include <functional>
 
+#include <QPoint>
+
 class QMouseEvent;
 class QWidget;
 
 namespace platform {
+
+/// The pixel of the layout that the mouse is on; on a finer screen it is on a part of one.
+QPoint pixelUnder(const QMouseEvent& event);
 
 /// Runs an action at each press on a control, with any button.
 void onPress(QWidget& control, std::function<void(const QMouseEvent&)> action);

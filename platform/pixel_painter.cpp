@@ -4,6 +4,7 @@
 #include "platform/pixel_painter.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QRegion>
 #include <QWidget>
@@ -46,6 +47,12 @@ void PixelPainter::drawOutline(const QRect& area, const QColor& colour) {
 
 void PixelPainter::draw(QPoint place, const QPixmap& image) {
     painter.drawPixmap(toScreen.map(QPointF(place)).toPoint(), image);
+}
+
+QRect withReach(const QWidget& widget, const QRect& area) {
+    const double ratio = widget.devicePixelRatioF();
+    const int reach = ratio == std::floor(ratio) ? 0 : 1;
+    return area.adjusted(-reach, -reach, reach, reach);
 }
 
 }  // namespace platform

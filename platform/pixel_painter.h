@@ -34,4 +34,8 @@ class PixelPainter {
     QTransform toScreen;
 };
 
+/// An area of a widget with what rounding may have painted beyond it: a pixel more on each side, where a pixel of the
+/// layout is no whole number of the screen's.
+QRect withReach(const QWidget& widget, const QRect& area);
+
 }  // namespace platform

@@ -5,10 +5,28 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
 namespace platform {
+namespace {
+
+// Moved by anybody but the program, a window keeps its size in the pixels of the screen instead.
+class SizeKeeper : public QObject {
+  public:
+    explicit SizeKeeper(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ScreenChangeInternal) {
+            auto* window = static_cast<QWidget*>(watched);
+            QTimer::singleShot(0, window, [window] { window->windowHandle()->resize(window->minimumSize()); });
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+}  // namespace
 
 Box screenOf(const QWidget& window) {
     const QWindow* shown = window.windowHandle();
@@ -18,6 +36,10 @@ Box screenOf(const QWidget& window) {
     }
     const QRect area = screen->geometry();
     return {toTwips(area.x()), toTwips(area.y()), toTwips(area.width()), toTwips(area.height())};
+}
+
+void keepSizeOnEveryScreen(QWidget& window) {
+    new SizeKeeper(window);
 }
 
 }  // namespace platform

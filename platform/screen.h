@@ -13,4 +13,7 @@ namespace platform {
 /// Left and Top are its origin on the desktop.
 Box screenOf(const QWidget& window);
 
+/// Keeps the fixed size of a window, in pixels of the layout, when it comes to a screen of another scale.
+void keepSizeOnEveryScreen(QWidget& window);
+
 }  // namespace platform

@@ -51,6 +51,8 @@ struct Board {
 
     /// Whether i is the index of a cell of this board.
     bool contains(int i) const { return i >= 0 && i < NbCol * NbLig; }
+    /// The cell that stands there; p must lie on this board.
+    CellIndex indexOf(Position p) const { return static_cast<CellIndex>(p.col * NbLig + p.row); }
     /// Where cell i stands; i must be a cell of this board.
     Position positionOf(CellIndex i) const { return {i / NbLig, i % NbLig}; }
 };

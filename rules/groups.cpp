@@ -29,4 +29,12 @@ std::vector<int> groupSizes(const Board& board) {
     return sizes;
 }
 
+int GroupSizes::at(const Board& board, CellIndex i) {
+    if (counted != board) {
+        counted = board;
+        sizes = groupSizes(board);
+    }
+    return sizes[i];
+}
+
 }  // namespace rules

@@ -13,4 +13,15 @@ namespace rules {
 /// cell.
 std::vector<int> groupSizes(const Board& board);
 
+/// The sizes of all groups of a board that is asked about cell by cell: counted anew only when the board has changed.
+class GroupSizes {
+  public:
+    /// The size of the group of cell i, which must be a cell of the board.
+    int at(const Board& board, CellIndex i);
+
+  private:
+    Board counted;
+    std::vector<int> sizes;
+};
+
 }  // namespace rules

@@ -24,7 +24,9 @@ inline int ink(const QPixmap& picture) {
 
 /// A label's text in a font, far from any edge.
 inline QPixmap unclipped(const QLabel& label, const QFont& font) {
-    QPixmap text(800, 200);
+    const double ratio = label.devicePixelRatioF();
+    QPixmap text(QSize(800, 200) * ratio);
+    text.setDevicePixelRatio(ratio);
     text.fill(Qt::transparent);
     QPainter painter(&text);
     painter.setFont(font);
@@ -33,6 +35,7 @@ inline QPixmap unclipped(const QLabel& label, const QFont& font) {
     const QRect room(20, 20, label.width() + (wraps ? 0 : 400), 160);
     painter.drawText(room, static_cast<int>(label.alignment()) | (wraps ? Qt::TextWordWrap : 0), label.text());
     QPixmap picture(text.size());
+    picture.setDevicePixelRatio(ratio);
     picture.fill(platform::steelBlue);
     QPainter(&picture).drawPixmap(0, 0, text);
     return picture;

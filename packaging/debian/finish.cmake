@@ -11,7 +11,7 @@ execute_process(
   OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 file(MAKE_DIRECTORY ${documents})
 configure_file(${CPACK_ZAMPOTINE_DEBIAN}/changelog.in ${documents}/changelog @ONLY)
-configure_file(${CPACK_ZAMPOTINE_DEBIAN}/copyright ${documents}/copyright COPYONLY)
+configure_file(${CPACK_ZAMPOTINE_DEBIAN}/copyright ${documents}/copyright @ONLY)
 
 file(GLOB_RECURSE manuals ${share}/man/*.6)
 execute_process(COMMAND gzip -9n ${documents}/changelog ${manuals} COMMAND_ERROR_IS_FATAL ANY)

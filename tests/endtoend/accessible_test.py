@@ -12,10 +12,11 @@ from PIL import Image
 import model
 from case import PROGRAM, Case, main
 from desktop import PATIENCE, wait_for
-from player import CELL_PIXELS, COLOURS, Player
+from player import COLOURS, Player, pixels_of
 from screen_reader import ScreenReader
 
 SMALL = "Col=8\nLig=14\nSon=0\n"
+SIZE = (738, 467)  # of a window with 25 columns and 20 rows
 
 
 class Accessible(Case):
@@ -127,7 +128,6 @@ class Accessible(Case):
                                "getRowExtentAt 2", "getColumnExtentAt 2", "isSelected 2", "isRowSelected 1",
                                "addRowSelection 1", "removeColumnSelection 1", "getSelectedRows 0",
                                "getRowColumnExtentsAtIndex 1"),
-                "queryTableCell": ("get_position 0", "get_row_span 0", "get_table 0"),
                 "queryAction": ("doAction 1", "getName 1", "getDescription 1", "getKeyBinding 1"),
                 "queryComponent": ("getAccessibleAtPoint 2", "grabFocus 0"),
                 "queryText": ("getText 2", "getCharacterAtOffset 1", "setCaretOffset 1", "addSelection 2",
@@ -140,20 +140,27 @@ class Accessible(Case):
                 with contextlib.suppress(reader.glib.Error, NotImplementedError, LookupError, AttributeError):
                     if asked % 500 == 0:
                         asked += 1
-                        reader.listen()
                         table = self.board_of_open_game(reader)
-                        known = [*reader.all(), *[table] * 50, *list(table)[::3]]
-                        # Soon the board has another size than the cells that are known.
+                        stale = list(table)[::9]
+                        # A board of another size, and a move on it that lasts while the queries come.
                         reader.find("text", "Colonnes").queryEditableText().setTextContents(str(chance.randint(8, 12)))
                         reader.press(reader.find("push button", "Nouvelle"))
+                        wait_for("a new board", lambda: reader.listen() or "Il reste" in str(reader.heard))
+                        largest = max(reader.cells().items(), key=lambda cell: cell[1][1])[0]
+                        known = [*reader.all(), *[table] * 20, *stale, *list(table)[::2]]
+                        reader.press(table.queryTable().getAccessibleAt(largest[1], largest[0]))
+                        if asked % 2000 == 1:  # in the About window instead, which opens after the move
+                            reader.press(reader.find("push button", "Aide"))
+                            reader.find("link")
+                            known = [*reader.all(), *stale]
                     it = chance.choice(known)
                     interface = chance.choice(list(queries))
                     call, arguments = chance.choice(queries[interface]).split()
-                    if call == "doAction" and it.name in ("Quitter", "Coucou !!!"):
+                    if call == "doAction" and it.name in ("Quitter", "Aide", "Coucou !!!", "Site de l'auteur"):
                         continue
                     queried = it if interface is None else getattr(it, interface)()
                     place = [reader.atspi.DESKTOP_COORDS] if call.endswith("AtPoint") else []
-                    asked += 1
+                    asked += call not in ("getState", "getIndexInParent")  # which may be known without asking
                     getattr(queried, call)(*chance.choices(numbers, k=int(arguments)), *place)
             self.board_of_open_game(reader)
             reader.press(reader.find("push button", "Quitter"))
@@ -164,27 +171,44 @@ class Accessible(Case):
         for scale in (1, 1.25, 1.5, 1.75, 2, 3):
             session = {"QT_SCALE_FACTOR": str(scale)}
             with self.subTest(scale=scale), self.desktop(2400, 1600, session=session) as desktop:
-                (desktop.home / f"{PROGRAM.stem}.ini").write_text("[init]\nNiveau=4\nCol=25\nLig=20\n")
-                desktop.start(PROGRAM)
-                window = wait_for("the window", lambda: desktop.xdotool("search", "--onlyvisible", "^Zampotine$"))
-                desktop.xdotool("windowmove", "--sync", window.strip(), 0, 0)
-                size = (738, 467)
-                fine = tuple(round(length * scale) for length in size)
-
-                def look():
-                    shown = desktop.screenshot((0, 0, *fine)).convert("RGB")
-                    scaled = np.array(shown.resize(size, Image.Resampling.BOX)).astype(int)
-                    cells = scaled[33:433, 33:533].reshape(20, 20, 25, 20, 3).swapaxes(1, 2)
-                    off = [abs(cells - CELL_PIXELS[ball]).mean((2, 3, 4)) for ball in COLOURS]
-                    return (np.array(shown), scaled) if np.min(off, 0).max() < 12 else None
-
-                shown, scaled = wait_for("every ball much like its picture", look)
+                window = self.show_all_colours(desktop)
+                desktop.xdotool("windowmove", "--sync", window, 0, 0)
+                picture = wait_for("balls as drawn", lambda: self.sharp_window(desktop, (0, 0), scale))
+                shown = np.array(picture)
+                scaled = np.array(picture.resize(SIZE, Image.Resampling.BOX)).astype(int)
                 scaled[33:433, 33:533] = 0
-                difference = abs(scaled - looks.setdefault("first", scaled))
+                difference = abs(scaled - looks.setdefault("at 100 %", scaled))
                 self.assertLess(difference.mean(), 1.5, "scaled down, it looks as at 100 %")
                 edge = round(17 * scale)
                 for strip in (shown[:edge], shown[-edge:], shown.swapaxes(0, 1)[:edge], shown.swapaxes(0, 1)[-edge:]):
                     self.assertEqual(np.ptp(strip[:, edge:-edge], 1).max(), 0, "a seam between pieces of the border")
+
+    def test_screens_of_two_scales(self):
+        session = {"QT_SCREEN_SCALE_FACTORS": "1;2"}
+        with self.desktop(3200, 1200, session=session) as desktop:
+            for monitor in ("left 1200/300x1200/300+0+0 screen", "right 2000/300x1200/300+1200+0 none"):
+                desktop.run("xrandr", "--setmonitor", *monitor.split())
+            window = self.show_all_colours(desktop)
+            for place, scale in (((100, 100), 1), ((1300, 100), 2), ((200, 150), 1)):
+                desktop.xdotool("windowmove", "--sync", window, *place)
+                wait_for(f"balls as drawn at {scale}", lambda: self.sharp_window(desktop, place, scale))
+
+    def show_all_colours(self, desktop):
+        (desktop.home / f"{PROGRAM.stem}.ini").write_text("[init]\nNiveau=4\nCol=25\nLig=20\n")
+        desktop.run(PROGRAM.with_name("draw_balls"), desktop.home)
+        desktop.start(PROGRAM)
+        return wait_for("the window", lambda: desktop.xdotool("search", "--onlyvisible", "^Zampotine$")).strip()
+
+    def sharp_window(self, desktop, place, scale):
+        """A picture of the window, if every cell shows one of the balls as they are drawn at this scale."""
+        area = [place[0], place[1], *(start + round(length * scale) for start, length in zip(place, SIZE))]
+        picture = desktop.screenshot(area).convert("RGB")
+        shown = np.array(picture)
+        first, side = int(33 * scale + 0.5), round(20 * scale)
+        cells = shown[first:first + 20 * side, first:first + 25 * side].reshape(20, side, 25, side, 3).swapaxes(1, 2)
+        balls = [pixels_of(ball, desktop.home / str(scale), side) for ball in COLOURS]
+        off = [abs(cells.astype(int) - ball).max((2, 3, 4)) for ball in balls]
+        return picture if np.min(off, 0).max() <= 2 else None
 
 
 if __name__ == "__main__":

@@ -17,29 +17,33 @@ from wayland import WaylandPlayer
 SETTINGS = "Col=25\nLig=20\nSon=0\n"
 BACKGROUND = (200, 445)
 LARGE_FONT = "DejaVu Serif,20,-1,5,50,0,0,0,0,0"
-FILES = {
-    "gtk-3.0/settings.ini": "[Settings]\ngtk-font-name=DejaVu Serif 20\n",
-    "kdeglobals": f"[General]\nfont={LARGE_FONT}\ntoolBarFont={LARGE_FONT}\nwidgetStyle=windows\n" + "".join(
-        f"[Colors:{part}]\nBackgroundNormal=30,0,30\nBackgroundAlternate=30,0,30\nForegroundNormal=255,255,0\n"
-        for part in ("Window", "View", "Button", "Selection", "Tooltip")),
-}
+GTK_SETTINGS = "[Settings]\ngtk-font-name=DejaVu Serif 20\n"
+KDE = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"}
+GNOME = {"XDG_CURRENT_DESKTOP": "GNOME"}
 SESSIONS = {
     "of no kind": {},
-    "KDE": {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"},
-    "GNOME, dark": {"XDG_CURRENT_DESKTOP": "GNOME", "GTK_THEME": "Adwaita:dark"},
-    "GNOME, high contrast": {"XDG_CURRENT_DESKTOP": "GNOME", "GTK_THEME": "HighContrastInverse"},
-    "Arabic, own style": {"LC_ALL": "ar_EG.UTF-8", "QT_STYLE_OVERRIDE": "windows", "QT_QPA_PLATFORMTHEME": "qt6ct"},
+    "KDE, dark": KDE | {"colours": ("30,0,30", "255,255,0")},
+    "KDE, high contrast": KDE | {"colours": ("0,0,0", "255,255,255")},
+    "GNOME, dark": GNOME | {"GTK_THEME": "Adwaita:dark"},
+    "with a style of its own": {"QT_STYLE_OVERRIDE": "windows"},
 }
+
+
+def kdeglobals(background, foreground):
+    return f"[General]\nfont={LARGE_FONT}\ntoolBarFont={LARGE_FONT}\nwidgetStyle=windows\n" + "".join(
+        f"[Colors:{part}]\nBackgroundNormal={background}\nBackgroundAlternate={background}\n"
+        f"ForegroundNormal={foreground}\n" for part in ("Window", "View", "Button", "Selection", "Tooltip"))
 
 
 class Desktops(Case):
     def test_sessions(self):
         looks = {}
         for name, session in SESSIONS.items():
+            colours = session.pop("colours", ("239,240,241", "0,0,0"))
             with self.subTest(session=name), self.desktop(session=session) as desktop:
-                for file, text in FILES.items():
-                    (desktop.home / file).parent.mkdir(exist_ok=True)
-                    (desktop.home / file).write_text(text)
+                (desktop.home / "kdeglobals").write_text(kdeglobals(*colours))
+                (desktop.home / "gtk-3.0").mkdir()
+                (desktop.home / "gtk-3.0/settings.ini").write_text(GTK_SETTINGS)
                 player = Player(desktop, PROGRAM, SETTINGS)
                 left, top, width, _ = player.geometry()
 

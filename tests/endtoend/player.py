@@ -27,10 +27,10 @@ HELP_ICON = (89, 227)
 MAIL, SITE, BACK = (77, 315), (208, 314), (340, 313)
 
 
-def pixels_of(content):
-    cell = Image.new("RGBA", (CELL, CELL), FIELD)
+def pixels_of(content, folder=PICTURES, side=CELL):
+    cell = Image.new("RGBA", (side, side), FIELD)
     if content != ".":
-        with Image.open(PICTURES / f"i{content}.gif") as ball:
+        with Image.open(next(folder.glob(f"i{content}.[gp]*"))) as ball:
             cell.alpha_composite(ball.convert("RGBA"))
     return np.array(cell.convert("RGB"))
 

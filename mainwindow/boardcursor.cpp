@@ -12,16 +12,16 @@
 
 #include "mainwindow/boardgeometry.h"
 #include "mainwindow/boardtable.h"
+#include "platform/pixel_painter.h"
 
 using namespace Qt::StringLiterals;
 
 namespace mainwindow {
 namespace {
 
-// The ring, in pixels: its middle lies that far outside of its cell.
-constexpr int distance = 1;
+// The ring, in pixels: how broad it is, and how far it stands out beyond its cell.
 constexpr int breadth = 4;
-constexpr int reach = distance + breadth / 2;
+constexpr int reach = 3;
 
 }  // namespace
 
@@ -36,7 +36,6 @@ BoardCursor::BoardCursor(QWidget& window, const rules::Board& board, std::functi
 void BoardCursor::fitBoard() {
     place = {std::min(place.col, shownBoard.NbCol - 1), std::min(place.row, shownBoard.NbLig - 1)};
     setGeometry(boardArea(shownBoard).adjusted(-reach, -reach, reach, reach));
-    update();
 }
 
 rules::CellIndex BoardCursor::cell() const {
@@ -44,6 +43,7 @@ rules::CellIndex BoardCursor::cell() const {
 }
 
 void BoardCursor::moveTo(rules::CellIndex cell) {
+    update(platform::withReach(*this, ring()));
     place = shownBoard.positionOf(cell);
     setShown(true);
     tellFocus(*this);
@@ -64,7 +64,7 @@ void BoardCursor::focusInEvent(QFocusEvent* event) {
 }
 
 void BoardCursor::focusOutEvent(QFocusEvent*) {
-    update();
+    update(platform::withReach(*this, ring()));
 }
 
 void BoardCursor::keyPressEvent(QKeyEvent* event) {
@@ -74,15 +74,15 @@ void BoardCursor::keyPressEvent(QKeyEvent* event) {
         if (!event->isAutoRepeat()) {
             press(cell());
         }
-    } else if (presses || moveBy(key)) {
-        moveTo(cell());
+    } else if (const auto to = presses ? std::optional(place) : target(key)) {
+        // A first key only shows where the cursor is.
+        moveTo(shown ? shownBoard.indexOf(*to) : cell());
     } else {
         QWidget::keyPressEvent(event);
     }
 }
 
-// A first key only shows where the cursor is.
-bool BoardCursor::moveBy(int key) {
+std::optional<rules::Position> BoardCursor::target(int key) const {
     const rules::Position last{shownBoard.NbCol - 1, shownBoard.NbLig - 1};
     rules::Position to = place;
     switch (key) {
@@ -111,12 +111,13 @@ bool BoardCursor::moveBy(int key) {
             to.row = last.row;
             break;
         default:
-            return false;
+            return std::nullopt;
     }
-    if (shown) {
-        place = to;
-    }
-    return true;
+    return to;
+}
+
+QRect BoardCursor::ring() const {
+    return cellArea(shownBoard, cell()).translated(-pos()).adjusted(-reach, -reach, reach, reach);
 }
 
 void BoardCursor::setShown(bool show) {
@@ -124,7 +125,7 @@ void BoardCursor::setShown(bool show) {
         show ? QCoreApplication::instance()->installEventFilter(this)
              : QCoreApplication::instance()->removeEventFilter(this);
     }
-    update();
+    update(platform::withReach(*this, ring()));
 }
 
 // White between black, so that it stands out from every colour and from the field.
@@ -135,11 +136,11 @@ void BoardCursor::paintEvent(QPaintEvent*) {
     constexpr double rounding = 4;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF ring =
-        QRectF(cellArea(shownBoard, cell()).translated(-pos())).adjusted(-distance, -distance, distance, distance);
+    constexpr double inset = breadth / 2.0;
+    const QRectF middle = QRectF(ring()).adjusted(inset, inset, -inset, -inset);
     for (const auto& [colour, width] : {std::pair{Qt::black, breadth}, std::pair{Qt::white, breadth / 2}}) {
         painter.setPen(QPen(colour, width));
-        painter.drawRoundedRect(ring, rounding, rounding);
+        painter.drawRoundedRect(middle, rounding, rounding);
     }
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QWidget>
 
@@ -40,7 +41,8 @@ class BoardCursor : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    bool moveBy(int key);
+    std::optional<rules::Position> target(int key) const;
+    QRect ring() const;
     void setShown(bool show);
 
     const rules::Board& shownBoard;

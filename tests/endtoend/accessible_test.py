@@ -5,6 +5,7 @@
 """Plays the real program without a pointer: by keyboard alone, and as a screen reader does; and on finer screens."""
 import contextlib
 import random
+import time
 
 import numpy as np
 from PIL import Image
@@ -192,6 +193,21 @@ class Accessible(Case):
             for place, scale in (((100, 100), 1), ((1300, 100), 2), ((200, 150), 1)):
                 desktop.xdotool("windowmove", "--sync", window, *place)
                 wait_for(f"balls as drawn at {scale}", lambda: self.sharp_window(desktop, place, scale))
+
+    def test_bouncing_balls(self):
+        """At a scale that puts the balls between the pixels of the screen."""
+        with self.desktop(session={"QT_SCALE_FACTOR": "1.1"}) as desktop:
+            window = self.show_all_colours(desktop)
+            desktop.xdotool("key", "--window", window, "F1")
+            wait_for("the About window", lambda: window not in desktop.xdotool("search", "--onlyvisible", "^Zampotine$"))
+            time.sleep(0.5)  # until all of it is painted
+
+            def without_balls():
+                return np.median([np.array(desktop.screenshot()) for _ in range(9) if not time.sleep(0.08)], 0)
+
+            before = without_balls()
+            time.sleep(4)
+            self.assertTrue((without_balls() == before).all(), "the balls have left traces")
 
     def show_all_colours(self, desktop):
         (desktop.home / f"{PROGRAM.stem}.ini").write_text("[init]\nNiveau=4\nCol=25\nLig=20\n")

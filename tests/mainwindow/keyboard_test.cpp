@@ -98,6 +98,9 @@ TEST(Keyboard, EveryCommandHasAKey) {
     EXPECT_FALSE(world.window->isVisible()) << "the About window takes its place";
     ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
     EXPECT_EQ(QApplication::focusWidget()->objectName(), u"Label1(0)"_s);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &held);
+    EXPECT_FALSE(world.window->isVisible());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_TRUE(world.window->isVisible()) << "and is left by the link that has the focus";
     ASSERT_TRUE(QTest::qWaitForWindowActive(world.window.get()));

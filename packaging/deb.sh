@@ -8,6 +8,7 @@ cd "$(dirname "$0")/.."
 # shellcheck source=packaging/steps.sh
 . packaging/steps.sh
 
+umask 022 # the package tells the modes of its parts
 packaging/install.sh build package
 packaging/build.sh deb
 say "Packaging."

@@ -43,7 +43,7 @@ rules::CellIndex BoardCursor::cell() const {
 }
 
 void BoardCursor::moveTo(rules::CellIndex cell) {
-    update(platform::withReach(*this, ring()));
+    updateRing();
     place = shownBoard.positionOf(cell);
     setShown(true);
     tellFocus(*this);
@@ -64,7 +64,7 @@ void BoardCursor::focusInEvent(QFocusEvent* event) {
 }
 
 void BoardCursor::focusOutEvent(QFocusEvent*) {
-    update(platform::withReach(*this, ring()));
+    updateRing();
 }
 
 void BoardCursor::keyPressEvent(QKeyEvent* event) {
@@ -120,12 +120,16 @@ QRect BoardCursor::ring() const {
     return cellArea(shownBoard, cell()).translated(-pos()).adjusted(-reach, -reach, reach, reach);
 }
 
+void BoardCursor::updateRing() {
+    update(platform::withReach(*this, ring()));
+}
+
 void BoardCursor::setShown(bool show) {
     if (show != std::exchange(shown, show)) {
         show ? QCoreApplication::instance()->installEventFilter(this)
              : QCoreApplication::instance()->removeEventFilter(this);
     }
-    update(platform::withReach(*this, ring()));
+    updateRing();
 }
 
 // White between black, so that it stands out from every colour and from the field.

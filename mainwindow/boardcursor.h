@@ -43,6 +43,7 @@ class BoardCursor : public QWidget {
   private:
     std::optional<rules::Position> target(int key) const;
     QRect ring() const;
+    void updateRing();
     void setShown(bool show);
 
     const rules::Board& shownBoard;

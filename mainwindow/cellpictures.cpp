@@ -56,12 +56,17 @@ void CellPictures::showAll(const rules::Board& board) {
 }
 
 void CellPictures::draw(platform::PixelPainter& painter, const rules::Board& board, const QRegion& region) const {
-    const QRect cells = cellsTouching(board, region.boundingRect());
-    for (int col = cells.left(); col <= cells.right(); ++col) {
-        for (int row = cells.top(); row <= cells.bottom(); ++row) {
-            const CellIndex i = board.indexOf({col, row});
-            if (region.intersects(cellArea(board, i))) {
-                platform::draw(painter, c[i]);
+    for (const QRect& area : region) {
+        const QRect cells = cellsTouching(board, area);
+        for (int col = cells.left(); col <= cells.right(); ++col) {
+            for (int row = cells.top(); row <= cells.bottom(); ++row) {
+                const CellIndex i = board.indexOf({col, row});
+                const QRect cell = cellArea(board, i);
+                const auto* const first =
+                    std::ranges::find_if(region, [&](const QRect& other) { return other.intersects(cell); });
+                if (first == &area) {
+                    platform::draw(painter, c[i]);
+                }
             }
         }
     }

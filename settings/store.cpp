@@ -3,8 +3,6 @@
 
 #include "settings/store.h"
 
-#include <optional>
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -52,12 +50,12 @@ QString Store::read(const QString& section, const QString& key, const QString& f
 }
 
 void Store::write(const QString& section, const QString& key, const QString& text) {
-    unsaved[{section, key}] = {Change::Kind::write, text, {}};
+    unsaved[{section, key}] = {Change::Kind::write, text};
     save(Locking::required);
 }
 
 QString Store::raise(const QString& section, const QString& key, const QString& text) {
-    const auto [change, isFirst] = unsaved.try_emplace({section, key}, Change{Change::Kind::raise, text, {}});
+    const auto [change, isFirst] = unsaved.try_emplace({section, key}, Change{Change::Kind::raise, text});
     if (!isFirst) {
         change->second.text = raised(change->second.text, text);
     }
@@ -70,7 +68,9 @@ void Store::reset(const QString& section, const QString& key) {
     const auto change = unsaved.find({section, key});
     if (change != unsaved.end()) {
         change->second.kind = Change::Kind::reset;
-        change->second.base = stored().file;
+        if (const Stored now = stored(); now.available) {
+            change->second.base = now.file;
+        }
     }
 }
 
@@ -93,7 +93,8 @@ Store::Stored Store::stored() const {
 
 /// The text that the key has once the change is saved over what is stored.
 QString Store::standing(const Stored& stored, const Name& name, const Change& change) {
-    if (change.kind == Change::Kind::write || (change.kind == Change::Kind::reset && change.base == stored.file)) {
+    const bool isLate = change.base && *change.base != stored.file;
+    if (change.kind == Change::Kind::write || (change.kind == Change::Kind::reset && !isLate)) {
         return change.text;
     }
     // A reset that came too late is a raise to what was scored since.

@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include <QByteArray>
@@ -48,7 +49,7 @@ class Store {
         enum class Kind { write, raise, reset };
         Kind kind = Kind::write;
         QString text;
-        QByteArray base;  // of a reset: the file as it was when the reset could not be saved
+        std::optional<QByteArray> base = {};  // of a reset that could not be saved: the file then, if it was readable
     };
 
     struct Stored {

@@ -5,17 +5,14 @@
 
 #include <array>
 #include <chrono>
-#include <csignal>
 #include <map>
 #include <thread>
 #include <vector>
 
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -28,15 +25,6 @@ using settings::Store;
 namespace {
 
 const QString zero = u"0"_s;
-
-/// Lets no file grow beyond a size, as on a full disk.
-void limitFiles(rlim_t size) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit{};
-    getrlimit(RLIMIT_FSIZE, &limit);
-    limit.rlim_cur = std::min(size, limit.rlim_max);
-    setrlimit(RLIMIT_FSIZE, &limit);
-}
 
 struct StoreTest : testing::Test {
     Folder folder;
@@ -132,25 +120,6 @@ TEST(Store, WritesOverNothingThatItCannotRead) {
     }
 }
 
-TEST_F(StoreTest, AFullDiskCostsNothing) {
-    const QByteArray before = "[init]\n0=120\n1=50\n2=60\nx=" + QByteArray(100, 'y') + "\n";
-    folder.put(before);
-    for (const rlim_t size : {0U, 1U, 60U}) {
-        limitFiles(size);
-        store.write(init, zero, u"130"_s);
-        store.reset(init, u"1"_s);
-        store.reset(init, u"2"_s);
-        store.flush();
-    }
-    limitFiles(RLIM_INFINITY);
-    EXPECT_EQ(folder.bytes(), before);
-    EXPECT_EQ(folder.names().join(u' '), u"game.ini game.ini.lock"_s);
-    EXPECT_EQ(store.read(init, zero, none), u"130"_s);
-    EXPECT_EQ(store.read(init, u"1"_s, none), zero);
-    EXPECT_EQ(store.raise(init, u"2"_s, u"10"_s), u"10"_s);  // above the reset
-    EXPECT_EQ(folder.bytes(), QByteArray(before).replace("120", "130").replace("=50", "=0").replace("60", "10"));
-}
-
 TEST_F(StoreTest, ATextBeyondTheSizeThatIsReadHoldsNothingElseBack) {
     store.write(init, u"Lig"_s, QString(1 << 20, u'x'));
     store.write(init, col, u"30"_s);
@@ -159,9 +128,10 @@ TEST_F(StoreTest, ATextBeyondTheSizeThatIsReadHoldsNothingElseBack) {
 }
 
 TEST_F(StoreTest, TwoCopiesNeverLowerABestScore) {
+    constexpr int highest = 4000;
     const pid_t child = fork();
     int falls = 0;
-    for (int score = child == 0 ? 1 : 2; score <= 300; score += 2) {
+    for (int score = child == 0 ? 1 : 2; score <= highest; score += 2) {
         for (const QString& level : {zero, u"1"_s}) {
             Store(folder.ini).raise(init, level, QString::number(score));
             falls += Store(folder.ini).read(init, level, zero).toInt() < score ? 1 : 0;
@@ -173,26 +143,7 @@ TEST_F(StoreTest, TwoCopiesNeverLowerABestScore) {
     int status = 0;
     waitpid(child, &status, 0);
     EXPECT_EQ(falls + status, 0) << "how often a score was found lower than it was raised";
-    EXPECT_EQ(folder.bytes(), "[init]\n0=300\n1=300\n");
-}
-
-TEST_F(StoreTest, AKilledSaveLeavesTheOldFileOrTheNewOne) {
-    for (int round = 0; round < 40; ++round) {
-        const pid_t child = fork();
-        if (child == 0) {
-            for (int i = 0;; ++i) {
-                Store(folder.ini).write(init, col, QString(3000, QChar(u'a' + i % 26)));
-            }
-        }
-        std::this_thread::sleep_for(round * 120us);
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        const QString text = Store(folder.ini).read(init, col, u""_s);
-        EXPECT_TRUE(text.isEmpty() || text == QString(3000, text[0]));
-    }
-    Store(folder.ini).write(init, col, u"30"_s);
-    EXPECT_EQ(folder.bytes(), "[init]\nCol=30\n");
-    EXPECT_EQ(folder.names().filter(QRegularExpression(u"[A-Z]"_s)), QStringList()) << "temporary files";
+    EXPECT_EQ(folder.bytes(), "[init]\n0=%1\n1=%1\n"_ba.replace("%1", QByteArray::number(highest)));
 }
 
 TEST_F(StoreTest, AResetWinsEvenIfItWaitsForAnotherCopysSave) {

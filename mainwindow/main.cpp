@@ -9,7 +9,7 @@
 #include "assets/pictures.h"
 #include "mainwindow/balls.h"
 #include "platform/look.h"
-#include "platform/quit_signals.h"
+#include "platform/signals.h"
 #include "platform/screen.h"
 #include "platform/sound.h"
 #include "platform/yield.h"
@@ -35,6 +35,7 @@ QIcon windowIcon() {
 }  // namespace
 
 int main(int, char* argv[]) {
+    platform::surviveFailedWrites();
     // There is no command line: the toolkit would take options of its own from it.
     int argc = 1;
     const QApplication application(argc, argv);

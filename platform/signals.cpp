@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/quit_signals.h"
+#include "platform/signals.h"
 
 #include <array>
 #include <cerrno>
@@ -24,6 +24,14 @@ void wakeUp(int) {
     errno = before;
 }
 
+void handle(int signal, void (*handler)(int)) {
+    struct sigaction handling {};
+    handling.sa_handler = handler;
+    handling.sa_flags = SA_RESTART;
+    sigemptyset(&handling.sa_mask);
+    sigaction(signal, &handling, nullptr);
+}
+
 }  // namespace
 
 void onQuitSignal(QObject& owner, std::function<void()> action) {
@@ -37,12 +45,15 @@ void onQuitSignal(QObject& owner, std::function<void()> action) {
         }
         action();
     });
-    struct sigaction handling {};
-    handling.sa_handler = wakeUp;
-    handling.sa_flags = SA_RESTART;
-    sigemptyset(&handling.sa_mask);
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        sigaction(signal, &handling, nullptr);
+        handle(signal, &wakeUp);
+    }
+}
+
+void surviveFailedWrites() {
+    // Not by ignoring them, which the programs that are started from here would inherit.
+    for (const int signal : {SIGPIPE, SIGXFSZ}) {
+        handle(signal, [](int) {});
     }
 }
 

@@ -14,4 +14,8 @@ namespace platform {
 /// signals keep their usual effect.
 void onQuitSignal(QObject& owner, std::function<void()> action);
 
+/// From now on, what is written to a connection that is closed or beyond the largest size of files fails, and does not
+/// end the program (SIGPIPE, SIGXFSZ).
+void surviveFailedWrites();
+
 }  // namespace platform

@@ -50,9 +50,9 @@ class Desktop:
         self.managed = managed
         self._stack = stack
         # The display would start anew, and drop who is just coming, each time that its last client leaves.
-        xvfb = self.start("Xvfb", "-noreset", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24",
-                          output=subprocess.PIPE)
-        self.environment["DISPLAY"] = ":" + xvfb.stdout.readline().decode().strip()
+        self.display = self.start("Xvfb", "-noreset", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24",
+                                  output=subprocess.PIPE)
+        self.environment["DISPLAY"] = ":" + self.display.stdout.readline().decode().strip()
         if managed:
             # Before the window manager is ready, windows may get lost between it and the display.
             self.start("openbox", "--startup", "touch ready")

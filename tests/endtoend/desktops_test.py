@@ -11,11 +11,10 @@ import numpy as np
 import model
 from case import PROGRAM, Case, main
 from desktop import PATIENCE, wait_for
-from player import BOARD, CELL, COLUMNS_BOX, NEW_GAME, Player, centre
+from player import BACKGROUND, BOARD, CELL, COLUMNS_BOX, NEW_GAME, Player, centre
 from wayland import WaylandPlayer
 
 SETTINGS = "Col=25\nLig=20\nSon=0\n"
-BACKGROUND = (200, 445)
 LARGE_FONT = "DejaVu Serif,20,-1,5,50,0,0,0,0,0"
 GTK_SETTINGS = "[Settings]\ngtk-font-name=DejaVu Serif 20\n"
 KDE = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"}

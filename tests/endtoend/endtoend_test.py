@@ -201,7 +201,7 @@ class EndToEnd(Case):
             player.act("key", "alt+F4")
             self.assertEqual(player.process.wait(PATIENCE), 0)
 
-    def test_screens(self):
+    def test_sizes(self):
         for width, height, asked, columns, rows in (
             (1024, 768, "60", 40, 36),
             (1600, 1200, "5000", 69, 58),

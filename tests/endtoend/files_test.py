@@ -15,10 +15,9 @@ import subprocess
 import tempfile
 import unittest
 
-from case import FOLDER, PROGRAM, main
+from case import FAULTS, FOLDER, PROGRAM, main
 from desktop import PATIENCE, wait_for
 
-FAULTS = PROGRAM.parent.parent / "tests" / "faults" / "libfaults.so"
 STRIDE = int(os.environ.get("STRIDE", 7))  # from one operation that is struck to the next
 # Of root, who may write to any file.
 WITHOUT_PRIVILEGES = () if os.geteuid() else ("setpriv", "--inh-caps=-all", "--bounding-set=-all")

@@ -17,6 +17,7 @@ PICTURES = pathlib.Path(__file__).resolve().parents[2] / "assets" / "pictures"
 COLOURS = "rbvjpg"  # in the order in which the levels add them
 FIELD = (128, 160, 192)
 CELL = 20  # pixels
+BACKGROUND = (200, 445)  # of a window with 25 columns and 20 rows
 BOARD = 33  # pixels from the window's left and top to the first cell, and from its top to the side panel
 # Places in the side panel.
 OPTIONS = tuple((12, 8 + 14 * level) for level in range(5))

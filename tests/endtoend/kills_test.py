@@ -1,0 +1,162 @@
+#!/usr/bin/python3 -B
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
+"""Ends the real program at every moment of its life, with and without a warning, and looks at what it left behind."""
+import itertools
+import os
+import random
+import re
+import signal
+import statistics
+import time
+
+import model
+from case import FAULTS, PROGRAM, Case, main
+from desktop import PATIENCE, wait_for
+from player import Player, centre
+
+SMALL = "Col=8\nLig=14\n"
+
+
+def press_largest_group(player, board):
+    """Returns the points that it is worth, at once."""
+    balls = model.groups(board)[-1]
+    player.act(centre(min(balls)), "click", 1)
+    return model.points(len(balls))
+
+
+def reach_idle(player):
+    return 0
+
+
+def reach_removal(player):
+    return press_largest_group(player, player.board())
+
+
+def reach_sound(player):
+    points = reach_removal(player)
+    wait_for("the sound", player.desktop.loudspeaker.exists)
+    return points
+
+
+def reach_about(player):
+    player.open_about()
+    return 0
+
+
+def reach_end_panel(player):
+    while not (presses := model.game_ending_with(1, board := player.board())):
+        player.deal()
+    score = 0
+    for cell in presses:
+        score += model.points(len(model.group(board, cell)))
+        board = player.play(board, cell) if cell != presses[-1] else player.act(centre(cell), "click", 1)
+    wait_for("the panel", lambda: "?" in "".join(player.board()))
+    return score
+
+
+REACH = {reach_idle: "0", reach_removal: "0", reach_sound: "1", reach_about: "0", reach_end_panel: "0"}  # sound switch
+
+
+class Kills(Case):
+    def test_kills(self):
+        rounds, chance = int(os.environ.get("ROUNDS", 20)), random.Random(os.environ.get("SEED", 5))
+        starts = []
+        with self.desktop() as desktop:
+            plain = dict(desktop.environment)
+            slow = {"LD_PRELOAD": str(FAULTS), "FAULTS": f"{desktop.home} 1 1 -2"}  # saves last, so that kills hit them
+            file = desktop.home / f"{PROGRAM.stem}.ini"
+            file.write_text(f"[init]\n{SMALL}Son=0\n0=0\n3=300\n")
+            best = 0
+            for number in range(rounds):
+                desktop.environment = plain | (slow if chance.random() < 0.5 else {})
+                moment = chance.choice(("start", "reset", "move", "close"))
+                began = time.monotonic()
+                if moment == "start":
+                    process, possible = desktop.start(PROGRAM), {best}
+                else:
+                    player = Player(desktop, PROGRAM)
+                    starts.append(time.monotonic() - began)
+                    process, possible = player.process, {best, 0}
+                    player.act("key", "ctrl+r")
+                    if moment != "reset":
+                        wait_for("the reset", lambda: player.stored()["0"] == "0")
+                        board = player.board()
+                        largest = model.groups(board)[-1]
+                        board, best = player.play(board, min(largest)), model.points(len(largest))
+                        # What it shows by now, no kill may cost.
+                        possible = {best}
+                    if moment == "move":
+                        possible |= {best + press_largest_group(player, board)}
+                    if moment == "close":
+                        player.act("key", "alt+F4")
+                time.sleep(chance.uniform(0, 0.4))
+                process.kill()
+                process.wait()
+                with self.subTest(number=number, moment=moment):
+                    self.assertRegex(file.read_text(), r"\A\[init\]\n(\w+=\w+\n)+\Z")
+                    stored = dict(re.findall("(.+)=(.*)", file.read_text()))
+                    self.assertEqual(stored["3"], "300")
+                    self.assertIn(int(stored["0"]), possible)
+                    self.assertLess(len(list(desktop.home.glob("*.ini*"))), 6, "files pile up")
+                best = int(stored["0"])
+            player = Player(desktop, PROGRAM)
+            player.act("key", "ctrl+r")
+            player.process.terminate()
+            self.assertEqual(player.process.wait(PATIENCE), 0)
+            self.assertEqual(sorted(left.suffix for left in desktop.home.glob("*.ini*")), [".bak", ".ini", ".lock"])
+            print(f"{rounds} kills; seconds to a board after one: {statistics.median(starts):.2f}, at most {max(starts):.2f}")
+
+    def test_signals(self):
+        signals = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)
+        with self.desktop() as desktop:
+            for reach, number in list(itertools.product(REACH, signals))[::int(os.environ.get("STRIDE", 2))]:
+                with self.subTest(reach=reach, signal=number):
+                    desktop.loudspeaker.unlink(missing_ok=True)
+                    player = Player(desktop, PROGRAM, f"{SMALL}Son={REACH[reach]}\n")
+                    score = reach(player)
+                    player.process.send_signal(number)
+                    self.assertEqual(player.process.wait(PATIENCE), 0)
+                    stored = {"Niveau": "0", "Col": "8", "Lig": "14", "Son": REACH[reach]}
+                    self.assertEqual(player.stored(), stored | ({"0": str(score)} if score else {}))
+
+    def test_session_end(self):
+        with self.desktop() as desktop:
+            (desktop.home / ".xsmstartup").write_text('sh -c "echo $SESSION_MANAGER >address"\n')
+            desktop.start("xsm")
+            address = desktop.home / "address"
+            wait_for("the session manager", lambda: address.exists() and address.read_text())
+            desktop.environment["SESSION_MANAGER"] = address.read_text().strip()
+            player = Player(desktop, PROGRAM, f"{SMALL}Son=0\n")
+            player.enter("17", "19")
+            player.open_about()
+            manager = desktop.xdotool("search", "--onlyvisible", "^xsm").strip()
+            desktop.xdotool("windowactivate", "--sync", manager)
+            player.act((143, 28), "mousedown", 1, "sleep", 0.3, (143, 57), "sleep", 0.3, "mouseup", 1, window=manager)
+            dialog = wait_for("its dialog", lambda: desktop.xdotool("search", "--onlyvisible", "^Shutdown$").strip())
+            player.act((170, -2), "click", 1, "type", "name", window=dialog)
+            player.act((48, 117), "click", 1, window=dialog)
+            self.assertEqual(player.process.wait(PATIENCE), 0)
+            self.assertEqual(player.stored(), {"Niveau": "0", "Col": "17", "Lig": "19", "Son": "0"})
+
+    def test_displays_gone(self):
+        for how, reach in itertools.product(("the display dies", "its client is killed"), REACH):
+            if reach == reach_end_panel:
+                continue
+            with self.subTest(how=how, reach=reach), self.player(f"{SMALL}Son=1\n") as player:
+                board = player.board()
+                score = press_largest_group(player, board)
+                wait_for("the move", lambda: player.board() != board and "?" not in "".join(player.board()))
+                player.catch_up()
+                reach(player)
+                if how == "the display dies":
+                    player.desktop.display.kill()
+                else:
+                    player.desktop.xdotool("windowkill", player.visible())
+                player.process.wait(PATIENCE)
+                self.assertGreaterEqual(int(player.stored()["0"]), score)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,120 @@
+#!/usr/bin/python3 -B
+# SPDX-FileCopyrightText: 2026 The Zampotine developers
+# SPDX-License-Identifier: MIT
+
+"""Plays the real program where sound, screens and window managers do not behave."""
+import contextlib
+import os
+import pathlib
+import socket
+import subprocess
+import time
+
+import model
+from case import PROGRAM, Case, main
+from desktop import PATIENCE, wait_for
+from player import BACKGROUND, NEW_GAME, Player
+
+SETTINGS = "Col=25\nLig=20\n"
+
+
+class Surroundings(Case):
+    def play(self, player, board):
+        """Plays the largest group. Returns the board after it and how many seconds that took."""
+        began = time.monotonic()
+        board = player.play(board, min(model.groups(board)[-1]))
+        return board, round(time.monotonic() - began, 2)
+
+    def leave(self, player):
+        player.process.terminate()
+        self.assertEqual(player.process.wait(PATIENCE), 0)
+        self.assertIn("0", player.stored(), "the best score")
+
+    @contextlib.contextmanager
+    def stalling_device(self, desktop):
+        """A device that takes the beginning of a sound and no more."""
+        os.mkfifo(desktop.loudspeaker)
+        with open(desktop.start("head", "-c", "20000", desktop.loudspeaker, output=subprocess.PIPE).stdout.fileno(),
+                  closefd=False), open(desktop.loudspeaker, "r+b", buffering=0):
+            yield
+
+    @contextlib.contextmanager
+    def silent_server(self, desktop):
+        """A sound server that takes every connection and never answers."""
+        with socket.socket(socket.AF_UNIX) as server:
+            server.bind(str(desktop.home / "sound"))
+            server.listen()
+            yield
+
+    def test_sounds(self):
+        nowhere = lambda desktop: contextlib.nullcontext()
+        for name, session, device in (
+            ("no device", {"SDL_AUDIODRIVER": "alsa"}, nowhere),
+            ("no such driver", {"SDL_AUDIODRIVER": "none"}, nowhere),
+            ("stalling device", {}, self.stalling_device),
+            ("silent server", {"SDL_AUDIODRIVER": "pulseaudio", "PULSE_SERVER": "unix:sound"}, self.silent_server),
+        ):
+            with self.subTest(name), self.desktop(session=session) as desktop, device(desktop):
+                player, took = Player(desktop, PROGRAM, SETTINGS + "Son=1\n"), []
+                board = player.board()
+                for _ in range(3):
+                    board, seconds = self.play(player, board)
+                    took.append(seconds)
+                self.leave(player)
+                print(f"{name}: seconds of the moves: {took}")
+
+    def test_sound_files(self):
+        good = (pathlib.Path(__file__).resolve().parents[2] / "assets/sounds/son50.WAV").read_bytes()
+        with self.player(SETTINGS + "Son=1\n") as player:
+            board = player.board()
+            for name, make in {
+                "empty": lambda file: file.touch(), "cut": lambda file: file.write_bytes(good[:999]),
+                "huge": lambda file: file.touch() or os.truncate(file, 1 << 32), "FIFO": os.mkfifo,
+                "link to itself": lambda file: file.symlink_to(file),
+                "200 channels": lambda file: file.write_bytes(good[:22] + b"\xc8" + good[23:]),
+                "rate 1": lambda file: file.write_bytes(good[:24] + b"\1\0\0\0" + good[28:]),
+                "whole": lambda file: file.write_bytes(good),
+            }.items():
+                with self.subTest(name):
+                    files = [player.desktop.home / f"son{size}.WAV" for size in (2, 5, 10, 50, 80)]
+                    for file in files:
+                        make(file)
+                    board, _ = self.play(player, board)
+                    for file in files:
+                        file.unlink()
+                    heard = any(player.desktop.loudspeaker.read_bytes())
+                    self.assertEqual(heard, name in ("FIFO", "link to itself", "whole"), "heard")
+                    player.desktop.loudspeaker.write_bytes(b"")
+            self.leave(player)
+
+    def test_stubborn_window_manager(self):
+        with self.desktop(managed=False) as desktop:
+            manager = desktop.start(pathlib.Path(__file__).with_name("stubborn_window_manager.py"),
+                                    output=subprocess.PIPE)
+            self.assertEqual(manager.stdout.readline(), b"ready\n")
+            player = Player(desktop, PROGRAM, SETTINGS + "Son=0\n")
+            self.assertEqual(player.drag(BACKGROUND, 1, [(40, 30)]), [(0, 0)])
+            player.leave_about(player.open_about(), "key", "Escape")
+            player.enter("12", "15")
+            player.click(NEW_GAME)
+            wait_for("a board as typed", lambda: player.board_size() == (12, 15))
+            player.catch_up()
+            self.assertEqual(player.geometry()[:2], (50, 40))
+            self.play(player, player.board())
+            self.leave(player)
+
+    def test_screens(self):
+        for side, cells in ((1, 1), (16000, 181)):  # the largest board, with some rows less than fit
+            with self.subTest(side=side), self.desktop(side, side) as desktop:
+                file = desktop.home / f"{PROGRAM.stem}.ini"
+                file.write_text("[init]\nCol=1000\nLig=1000\nSon=0\n")
+                process = desktop.start(PROGRAM)
+                wait_for("the window", lambda: desktop.xdotool("search", "--onlyvisible", "^Zampotine$"))
+                desktop.xdotool("key", "F2", "Up", "space", "F1", "Escape", "F2")
+                process.terminate()
+                self.assertEqual(process.wait(PATIENCE), 0)
+                self.assertIn(f"\nCol={cells}\nLig={cells}\n", file.read_text())
+
+
+if __name__ == "__main__":
+    main()

@@ -64,10 +64,10 @@ void dealing(benchmark::State& state) {
 BENCHMARK(dealing)->Name("deal");
 
 void dealingPlain(benchmark::State& state) {
-    Board board = rules::emptyBoard(217, 151);
+    rules::Game game{.board = rules::emptyBoard(217, 151)};
     for (auto _ : state) {
-        plain::deal(board, 6, rules::Random(1));
-        benchmark::DoNotOptimize(board.cells.data());
+        plain::deal(game, 4, rules::Random(1));
+        benchmark::DoNotOptimize(game.board.cells.data());
     }
 }
 BENCHMARK(dealingPlain)->Name("deal plain");

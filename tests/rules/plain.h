@@ -4,6 +4,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "rules/game.h"
@@ -64,16 +65,36 @@ inline void efface(Board& board, int K, Code t, std::vector<CellIndex>& removed)
     }
 }
 
-/// Fills the board, walking over the filled cells.
-inline void deal(Board& board, int NbCoul, const rules::Draw& draw) {
-    const int cells = static_cast<int>(board.cells.size());
-    std::ranges::fill(board.cells, Code::none);
+/// Plays the press of any cell, on the board or not: the cells that it clears, in order.
+inline std::vector<CellIndex> press(rules::Game& game, int i) {
+    Board board = game.board;
+    std::vector<CellIndex> removed;
+    if (i >= 0 && i < board.NbCol * board.NbLig && board[index(i)] != Code::none) {
+        plain::efface(board, i, board[index(i)], removed);
+    }
+    if (removed.size() < 2) {
+        return {};
+    }
+    plain::settle(board);
+    game.board = board;
+    const auto n = static_cast<double>(removed.size());
+    game.score += static_cast<std::int64_t>(std::floor(n * (n + 1) / 1.5));
+    game.Total = index(game.Total - static_cast<int>(removed.size()));
+    game.score *= game.Total == 0 ? 2 : 1;
+    return removed;
+}
+
+/// Fills the game's board, walking over the filled cells.
+inline void deal(rules::Game& game, int Diff, const rules::Draw& draw) {
+    const int cells = game.board.NbCol * game.board.NbLig;
+    game.Total = game.NBBoules = index(cells);
+    std::ranges::fill(game.board.cells, Code::none);
     for (int ball = 0; ball < cells; ++ball) {
         int p = static_cast<int>(static_cast<double>(draw()) * cells);
-        while (board[index(p)] != Code::none) {
+        while (game.board[index(p)] != Code::none) {
             p = p + 1 == cells ? 0 : p + 1;
         }
-        board[index(p)] = rules::codes[ball % NbCoul];
+        game.board[index(p)] = rules::codes[ball % (Diff + 2)];
     }
 }
 

@@ -37,7 +37,8 @@ target_link_options(build_options INTERFACE "$<$<CONFIG:Release>:-pie;-fPIC;LINK
 
 if(ZAMPOTINE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_compile_options(build_options INTERFACE ${sanitizers})
+  # All that is compiled counts what it runs, so that the fuzzers find their way through the libraries too.
+  target_compile_options(build_options INTERFACE ${sanitizers} -fsanitize=fuzzer-no-link)
   target_link_options(build_options INTERFACE ${sanitizers})
 endif()
 

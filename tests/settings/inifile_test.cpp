@@ -46,23 +46,6 @@ TEST(IniFile, ChangesOneLineAndNoOther) {
     }
 }
 
-TEST(IniFile, AnyTextComesBackInAnyPlace) {
-    const QStringList texts{u""_s,  u" 2\t"_s,           u"[a]\r\nCol=1"_s,    u"[x]"_s,           u"; a"_s,
-                            u"#"_s, u"\\u0041\\\\n\\"_s, u"\0\xD800x\xDC00"_s, u"\uFEFFé🎱\u00A0"_s};
-    QByteArray file = "[init]\nLig=2\n";
-    for (const QString& text : texts) {
-        file = withValue(file, init, text, text);
-        file = withValue(file, text, col, text);
-    }
-    EXPECT_TRUE(isIniFile(file));
-    for (const QString& text : texts) {
-        EXPECT_EQ(valueIn(file, init, text), text);
-        EXPECT_EQ(valueIn(file, text, col), text);
-    }
-    EXPECT_EQ(valueIn(file, init, u"Lig"_s), u"2"_s);
-    EXPECT_EQ(valueIn(file, init, col), std::nullopt);
-}
-
 TEST(IniFile, IsNoGarbage) {
     for (const QByteArray& file : {"\n"_ba, "\xEF\xBB\xBF"_ba, "[init]\nCol=\xE9\n"_ba, "[init]\n\0"_ba, "[ini"_ba}) {
         EXPECT_FALSE(isIniFile(file)) << testing::PrintToString(file);

@@ -36,16 +36,21 @@ bool holdsWholeDataChunk(std::string_view file) {
     return false;
 }
 
+Uint32 frameSize(const SDL_AudioSpec& audio) {
+    return audio.channels * SDL_AUDIO_BITSIZE(audio.format) / 8U;
+}
+
 bool isPlayable(const SDL_AudioSpec& audio, Uint32 bytes) {
     if (audio.channels < 1 || audio.channels > 2 || audio.freq < 8000 || audio.freq > 48000) {
         return false;
     }
-    const Uint32 frames = bytes / (audio.channels * SDL_AUDIO_BITSIZE(audio.format) / 8U);
-    return frames <= static_cast<Uint32>(audio.freq) * longestSeconds;
+    return bytes / frameSize(audio) <= static_cast<Uint32>(audio.freq) * longestSeconds;
 }
 
 /// Not by SDL_AudioStream: SDL 2.26 loses up to 512 frames at the end when that resamples.
 Samples convert(const SDL_AudioSpec& audio, std::span<const Uint8> bytes) {
+    // SDL goes by the size of a frame that the file claims, which may be that of half a frame.
+    bytes = bytes.first(bytes.size() - bytes.size() % frameSize(audio));
     SDL_AudioCVT conversion{};
     if (sdl()->BuildAudioCVT(&conversion, audio.format, audio.channels, audio.freq, AUDIO_S16SYS, samplesChannels,
                              samplesRate) < 0) {

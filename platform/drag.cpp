@@ -33,7 +33,11 @@ class Drag : public QObject {
         switch (event->type()) {
             case QEvent::MouseButtonPress:
             case QEvent::MouseButtonDblClick:
-                return true;
+                if (isHeldAt(*static_cast<QMouseEvent*>(event))) {
+                    return true;
+                }
+                end();
+                break;
             case QEvent::MouseMove:
             case QEvent::MouseButtonRelease:
                 follow(*static_cast<QMouseEvent*>(event));
@@ -48,6 +52,11 @@ class Drag : public QObject {
     }
 
   private:
+    // If not, the release went elsewhere.
+    bool isHeldAt(const QMouseEvent& press) const {
+        return press.button() != button && press.buttons().testFlag(button);
+    }
+
     void follow(const QMouseEvent& mouse) {
         const bool released = mouse.button() == button;
         if (released || mouse.buttons().testFlag(button)) {

@@ -66,7 +66,7 @@ TEST(Feedback, OnlyTheBackgroundOfTheWindowAnswersTheMouse) {
 
 TEST(Feedback, DragLastsFromThePressToTheReleaseOfItsButton) {
     World world;
-    world.open("rb br");
+    world.open("rb rb");
     auto& window = *world.window;
     const QPoint start = window.pos();
     const QPoint grip(20, 25);
@@ -89,7 +89,10 @@ TEST(Feedback, DragLastsFromThePressToTheReleaseOfItsButton) {
     mouse(Type::MouseButtonPress, {}, left, left);
     EXPECT_EQ(mouse(Type::MouseMove, {5, 5}, {}, {}), QPoint()) << "the release was heard by nobody";
     EXPECT_EQ(mouse(Type::MouseMove, {6, 6}, {}, left), QPoint()) << "and the drag is over";
-    EXPECT_EQ(world.game().board, picture("rb br"));
+    mouse(Type::MouseButtonPress, {}, left, left);
+    EXPECT_EQ(world.game().board, picture("rb rb"));
+    world.press(0);
+    EXPECT_EQ(world.game().board, picture("b. b.")) << "nor was this one, as the press tells";
 }
 
 }  // namespace

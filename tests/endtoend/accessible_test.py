@@ -4,7 +4,6 @@
 
 """Plays the real program without a pointer: by keyboard alone, and as a screen reader does; and on finer screens."""
 import contextlib
-import random
 import time
 
 import numpy as np
@@ -103,69 +102,9 @@ class Accessible(Case):
             self.assertEqual(player.process.wait(PATIENCE), 0)
             self.assertEqual(player.stored()["0"], "0")
 
-    def board_of_open_game(self, reader):
-        def board():
-            reader.listen()
-            with contextlib.suppress(reader.glib.Error, LookupError):
-                for it in reader.all():
-                    if it.name == "Retour":
-                        reader.press(it)
-                    if it.getRoleName() == "table":
-                        return it
-            return None
-        return wait_for("the board", board)
-
     def said_of(self, reader, role):
         controls = [it for it in reader.all() if it.getRoleName() == role]
         return {it.name: (it.description, it.queryAction().getKeyBinding(0)) for it in controls}
-
-    def test_screen_reader_fuzz(self):
-        with self.reader() as (reader, player):
-            chance = random.Random(4)
-            numbers = [-2**31, -113, -1, 0, 1, 7, 8, 13, 14, 111, 112, 5000, 2**31 - 1]
-            queries = {
-                "queryTable": ("getAccessibleAt 2", "getIndexAt 2", "getRowAtIndex 1", "getColumnAtIndex 1",
-                               "getRowDescription 1", "getColumnDescription 1", "getRowHeader 1", "getColumnHeader 1",
-                               "getRowExtentAt 2", "getColumnExtentAt 2", "isSelected 2", "isRowSelected 1",
-                               "addRowSelection 1", "removeColumnSelection 1", "getSelectedRows 0",
-                               "getRowColumnExtentsAtIndex 1"),
-                "queryAction": ("doAction 1", "getName 1", "getDescription 1", "getKeyBinding 1"),
-                "queryComponent": ("getAccessibleAtPoint 2", "grabFocus 0"),
-                "queryText": ("getText 2", "getCharacterAtOffset 1", "setCaretOffset 1", "addSelection 2",
-                              "removeSelection 1"),
-                None: ("getChildAtIndex 1", "getIndexInParent 0", "getState 0", "getRelationSet 0", "get_attributes 0"),
-            }
-            asked = 0
-            while asked < 10_000:
-                self.assertIsNone(player.process.poll(), f"the program ended after {asked} queries")
-                with contextlib.suppress(reader.glib.Error, NotImplementedError, LookupError, AttributeError):
-                    if asked % 500 == 0:
-                        asked += 1
-                        table = self.board_of_open_game(reader)
-                        stale = list(table)[::9]
-                        # A board of another size, and a move on it that lasts while the queries come.
-                        reader.find("text", "Colonnes").queryEditableText().setTextContents(str(chance.randint(8, 12)))
-                        reader.press(reader.find("push button", "Nouvelle"))
-                        wait_for("a new board", lambda: reader.listen() or "Il reste" in str(reader.heard))
-                        largest = max(reader.cells().items(), key=lambda cell: cell[1][1])[0]
-                        known = [*reader.all(), *[table] * 20, *stale, *list(table)[::2]]
-                        reader.press(table.queryTable().getAccessibleAt(largest[1], largest[0]))
-                        if asked % 2000 == 1:  # in the About window instead, which opens after the move
-                            reader.press(reader.find("push button", "Aide"))
-                            reader.find("link")
-                            known = [*reader.all(), *stale]
-                    it = chance.choice(known)
-                    interface = chance.choice(list(queries))
-                    call, arguments = chance.choice(queries[interface]).split()
-                    if call == "doAction" and it.name in ("Quitter", "Aide", "Coucou !!!", "Site de l'auteur"):
-                        continue
-                    queried = it if interface is None else getattr(it, interface)()
-                    place = [reader.atspi.DESKTOP_COORDS] if call.endswith("AtPoint") else []
-                    asked += call not in ("getState", "getIndexInParent")  # which may be known without asking
-                    getattr(queried, call)(*chance.choices(numbers, k=int(arguments)), *place)
-            self.board_of_open_game(reader)
-            reader.press(reader.find("push button", "Quitter"))
-            self.assertEqual(player.process.wait(PATIENCE), 0)
 
     def test_scales(self):
         looks = {}

@@ -4,7 +4,6 @@
 
 """Plays the real program on a real X display, with pointer and keyboard."""
 import pathlib
-import random
 import time
 
 import numpy as np
@@ -12,7 +11,7 @@ import numpy as np
 import model
 from case import PROGRAM, Case, main
 from desktop import PATIENCE, wait_for
-from player import (BACK, COLOURS, HELP_ICON, MAIL, NEW_GAME, OPTIONS, QUIT_CAPTION, QUIT_PICTURE, SITE, SOUND_SWITCH,
+from player import (BACK, COLOURS, MAIL, NEW_GAME, OPTIONS, QUIT_CAPTION, QUIT_PICTURE, SITE, SOUND_SWITCH,
                     Player, centre)
 
 SOUNDS = pathlib.Path(__file__).resolve().parents[2] / "assets" / "sounds"
@@ -170,36 +169,6 @@ class EndToEnd(Case):
             player.process.terminate()
             self.assertEqual(player.process.wait(PATIENCE), 0)
             self.assertEqual(player.stored(), {"Col": "25", "Lig": "20", "Son": "0", "Niveau": "0"})
-
-    def test_monkey(self):
-        with self.player("Col=12\nLig=14\nSon=0\n") as player:
-            monkey = random.Random(20)
-            home = player.geometry()
-            spared = [player.in_panel(place) for place in ((103, 224), (0, 72))]  # "Quitter", and the slow sounds
-            seen = set()
-            for _ in range(12):
-                window = wait_for("a window", player.visible)
-                seen.add(window)
-                left, top, width, height = player.geometry(window)
-                actions = []
-                while len(actions) < 20 * 7:
-                    x, y = monkey.randrange(width), monkey.randrange(height)
-                    if window == player.window and monkey.random() < 0.05:
-                        x, y = player.in_panel(HELP_ICON)
-                    # Where the game would be: "Retour" may bring it back at any click.
-                    at = left - home[0] + x, top - home[1] + y
-                    if not any(0 <= at[0] - spare[0] < 80 and 0 <= at[1] - spare[1] < 20 for spare in spared):
-                        actions += [(x, y), "click", "--repeat", 5, "--delay", 2, 1]
-                player.act(*actions, window=window)
-                time.sleep(0.5)  # longer than any move
-                self.assertIsNone(player.process.poll(), "the program has ended")
-            self.assertGreater(len(seen), 2, "the monkey was in both windows, and in About twice")
-            if (window := wait_for("a window", player.visible)) != player.window:
-                player.leave_about(window, BACK, "click", 1)
-            player.deal()
-            self.assertLessEqual(set("".join(player.board())), set(COLOURS))
-            player.act("key", "alt+F4")
-            self.assertEqual(player.process.wait(PATIENCE), 0)
 
     def test_sizes(self):
         for width, height, asked, columns, rows in (

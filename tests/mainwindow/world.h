@@ -3,10 +3,13 @@
 
 #pragma once
 
+#include <algorithm>
 #include <memory>
+#include <random>
 #include <string>
 #include <vector>
 
+#include <QApplication>
 #include <QLabel>
 #include <QRadioButton>
 #include <QTest>
@@ -16,6 +19,7 @@
 #include "platform/controls.h"
 #include "platform/text_box.h"
 #include "rules/deal.h"
+#include "rules/move.h"
 #include "tests/rules/pictures.h"
 
 namespace mainwindow {
@@ -40,6 +44,7 @@ struct World {
     settings::Store store{QString()};
     RecordedSound sound;
     std::uint64_t seed = 1;
+    std::function<std::uint64_t()> nextSeed = [this] { return seed; };
     platform::Box screen{0, 0, 24'000, 18'000};
     int pauses = 0;
     std::function<void()> inPause = [] {};
@@ -54,7 +59,7 @@ struct World {
         window = std::make_unique<balls>(Surroundings{
             store,
             sound,
-            [this] { return seed; },
+            nextSeed,
             [this](const QWidget&) { return screen; },
             [this](std::chrono::microseconds) {
                 ++pauses;
@@ -92,6 +97,26 @@ struct World {
     void press(int i, Qt::MouseButton button = Qt::LeftButton) const {
         const auto [col, row] = game().board.positionOf(static_cast<rules::CellIndex>(i));
         QTest::mousePress(window.get(), button, {}, {33 + 20 * col + 10, 33 + 20 * row + 10});
+    }
+
+    /// Presses a group; false if there is none.
+    bool pressAnyGroup(std::mt19937& chance) const {
+        std::vector<int> groups;
+        for (int i = 0; game().board.contains(i); ++i) {
+            groups.insert(groups.end(), rules::isGroup(game().board, i) ? 1 : 0, i);
+        }
+        if (!groups.empty()) {
+            press(groups[chance() % groups.size()], static_cast<Qt::MouseButton>(1U << chance() % 3));
+        }
+        return !groups.empty();
+    }
+
+    /// The About window while it shows, else the main window.
+    QWidget* shown() const {
+        const auto windows = QApplication::topLevelWidgets();
+        const auto isAbout = [this](const QWidget* it) { return it->isVisible() && it != window.get(); };
+        const auto about = std::ranges::find_if(windows, isAbout);
+        return about == windows.end() ? window.get() : *about;
     }
 
     /// Removes the first group of a board that ends with that move.

@@ -58,11 +58,11 @@ class Desktop:
             self.start("openbox", "--startup", "touch ready")
             wait_for("the window manager", (home / "ready").exists)
 
-    def start(self, *command, output=None, errors=None):
+    def start(self, *command, input=None, output=None, errors=None):
         """A process that is ended with the stack, and by the kernel should this process be killed."""
         process = self._stack.enter_context(subprocess.Popen(
             ["setpriv", "--pdeathsig", "TERM", *command], env=self.environment, cwd=self.home,
-            stdout=output, stderr=errors))
+            stdin=input, stdout=output, stderr=errors))
         self._stack.callback(process.terminate if command[0] == "Xvfb" else process.kill)
         return process
 

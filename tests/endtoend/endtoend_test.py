@@ -11,8 +11,7 @@ import numpy as np
 import model
 from case import PROGRAM, Case, main
 from desktop import PATIENCE, wait_for
-from player import (BACK, COLOURS, MAIL, NEW_GAME, OPTIONS, QUIT_CAPTION, QUIT_PICTURE, SITE, SOUND_SWITCH,
-                    Player, centre)
+from player import (BACK, COLOURS, MAIL, OPTIONS, QUIT_CAPTION, SITE, SOUND_SWITCH, Player, centre)
 
 SOUNDS = pathlib.Path(__file__).resolve().parents[2] / "assets" / "sounds"
 SOUND_UP_TO = {2: "son2.WAV", 10: "son5.WAV", 50: "son10.WAV", 80: "son50.WAV", 1200: "son80.WAV"}  # balls
@@ -101,23 +100,6 @@ class EndToEnd(Case):
                 wait_for("the panel gone after a click on it", lambda: player.act((100, 214), "click", 1)
                          or player.board() == model.without(board, last))
 
-    def test_during_a_move(self):
-        with self.player("Col=40\nLig=30\n") as player:
-            board = player.board()
-            first = model.groups(board)[-1]
-            after = model.without(board, first)
-            *_, dropped, last = model.groups(after)
-            cause = f"{min(dropped)} at once after {min(first)} on\n{model.text(board)}"
-            player.act_at_once(centre(min(first)), "click", 1, centre(min(dropped)), "click", 1)
-            player.expect_board(after, cause)
-            player.catch_up()
-            player.expect_board(after, cause)
-            player.act_at_once(centre(min(last)), "click", 1, player.in_panel(QUIT_PICTURE), "click", 1)
-            self.assertEqual(player.process.wait(PATIENCE), 0)
-            score = model.points(len(first)) + model.points(len(last))
-            stored = {"Niveau": "0", "0": str(score), "Col": "40", "Lig": "30", "Son": "1"}
-            self.assertEqual(player.stored(), stored, f"{min(last)} on\n{model.text(after)}")
-
     def test_drags(self):
         with self.player("Col=25\nLig=20\nSon=0\n") as player:
             board = player.board()
@@ -169,20 +151,6 @@ class EndToEnd(Case):
             player.process.terminate()
             self.assertEqual(player.process.wait(PATIENCE), 0)
             self.assertEqual(player.stored(), {"Col": "25", "Lig": "20", "Son": "0", "Niveau": "0"})
-
-    def test_sizes(self):
-        for width, height, asked, columns, rows in (
-            (1024, 768, "60", 40, 36),
-            (1600, 1200, "5000", 69, 58),
-            (5120, 2880, "1000", 230, 142),  # no more cells than can be numbered
-        ):
-            with self.subTest(width=width), self.player(width=width, height=height) as player:
-                player.enter(asked, asked)
-                player.click(NEW_GAME)
-                wait_for(f"{columns} columns, {rows} rows", lambda: player.board_size() == (columns, rows))
-                player.catch_up()
-                # The window may overhang the screen by some rows.
-                self.assertGreater(sum(ball in COLOURS for ball in "".join(player.board())), 0.9 * columns * rows)
 
 
 if __name__ == "__main__":

@@ -113,6 +113,7 @@ class Files(unittest.TestCase):
         for name, make, stays in (
             ("gigabyte", lambda ini: os.truncate(ini, 1 << 30) or ini, lambda ini: ini.stat().st_size == 1 << 30),
             ("FIFO", lambda ini: ini.unlink() or os.mkfifo(ini), pathlib.Path.is_fifo),
+            ("device", lambda ini: ini.unlink() or ini.symlink_to("/dev/zero"), pathlib.Path.is_symlink),
             ("folder", lambda ini: ini.unlink() or ini.mkdir(), pathlib.Path.is_dir),
             ("loop of links", lambda ini: ini.unlink() or ini.symlink_to(ini), pathlib.Path.is_symlink),
             ("link", lambda ini: ini.symlink_to(ini.rename(ini.with_name("file"))),

@@ -49,9 +49,10 @@ def reach_end_panel(player):
     while not (presses := model.game_ending_with(1, board := player.board())):
         player.deal()
     score = 0
-    for cell in presses:
+    for cell in presses[:-1]:
         score += model.points(len(model.group(board, cell)))
-        board = player.play(board, cell) if cell != presses[-1] else player.act(centre(cell), "click", 1)
+        board = player.play(board, cell)
+    score += press_largest_group(player, board)
     wait_for("the panel", lambda: "?" in "".join(player.board()))
     return score
 

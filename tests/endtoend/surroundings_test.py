@@ -15,7 +15,7 @@ from case import PROGRAM, Case, main
 from desktop import PATIENCE, wait_for
 from player import BACKGROUND, NEW_GAME, Player
 
-SETTINGS = "Col=25\nLig=20\n"
+SETTINGS = "Col=25\nLig=20\nNiveau=4\n"
 
 
 class Surroundings(Case):
@@ -28,7 +28,7 @@ class Surroundings(Case):
     def leave(self, player):
         player.process.terminate()
         self.assertEqual(player.process.wait(PATIENCE), 0)
-        self.assertIn("0", player.stored(), "the best score")
+        self.assertIn("4", player.stored(), "the best score")
 
     @contextlib.contextmanager
     def stalling_device(self, desktop):

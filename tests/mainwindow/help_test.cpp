@@ -55,28 +55,5 @@ TEST(Help, OpensInTheMiddleOfTheGamesScreen) {
     EXPECT_EQ(aboutWindows().at(0)->geometry(), QRect(2000 + (1024 - 413) / 2, 100 + (768 - 344) / 2, 413, 344));
 }
 
-TEST(Help, WaitsForTheEndOfAMove) {
-    World world;
-    world.open("rb rb rb");
-    world.inPause = [&] {
-        QTest::mousePress(world.control<QWidget>("Image1"), Qt::LeftButton);
-        EXPECT_TRUE(world.window->isVisible());
-    };
-    world.press(0);
-    EXPECT_EQ(world.game().board, picture("b. b. b."));
-    EXPECT_EQ(aboutWindows().size(), 1);
-}
-
-TEST(Help, ClosingTheGameMeanwhileStoresItsSettings) {
-    World world;
-    world.open();
-    world.type("17", "19");
-    QTest::mousePress(world.control<QWidget>("Image1"), Qt::LeftButton);
-    world.window->close();
-    EXPECT_TRUE(aboutWindows().empty()) << "left to the toolkit, it would bring the game back";
-    EXPECT_EQ(world.stored("Col"), "17");
-    EXPECT_EQ(world.stored("Lig"), "19");
-}
-
 }  // namespace
 }  // namespace mainwindow

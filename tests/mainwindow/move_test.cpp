@@ -27,18 +27,6 @@ TEST(Move, PressShowsReportsAndPlaysTheMoveWithAnyButton) {
     }
 }
 
-TEST(Move, PressThatRemovesNothingChangesNothing) {
-    World world;
-    world.open("rb br");
-    const QImage before = world.window->grab().toImage();
-    for (const QPoint point : {QPoint(40, 40), QPoint(5, 5), QPoint(20, 20), QPoint(200, 60)}) {
-        QTest::mousePress(world.window.get(), Qt::LeftButton, {}, point);
-    }
-    EXPECT_EQ(world.window->grab().toImage(), before);
-    EXPECT_TRUE(world.sound.played.empty());
-    EXPECT_EQ(world.pauses, 0);
-}
-
 TEST(Move, GameEndsWithThePanelThatAClickOrANewGameHides) {
     struct Row {
         const char *what, *board;
@@ -87,17 +75,6 @@ TEST(Move, SoundDeviceOpensWhileTheBallsVanishButNeverInVain) {
     EXPECT_EQ(silent.sound.warmUps, 0);
 }
 
-TEST(Move, PressesDuringAMoveAreDropped) {
-    World world;
-    world.open(columns);
-    world.inPause = [&] { world.press(3); };
-    world.sound.meanwhile = [&] { world.press(3); };
-    world.press(0);
-    EXPECT_EQ(world.game().board, picture("b. b. b."));
-    EXPECT_EQ(world.game().score, 8);
-    EXPECT_EQ(world.sound.played.size(), 1);
-}
-
 TEST(Move, CommandsDuringAMoveRunAfterItInTheirOrderAndOptionsAtOnce) {
     World world;
     world.open(columns);
@@ -134,23 +111,6 @@ TEST(Move, ClosingDuringAMoveEndsItAtOnceAndLosesNothing) {
         EXPECT_TRUE(world.sound.played.empty());
         EXPECT_EQ(world.stored("0"), "8");
         EXPECT_EQ(world.stored("Son"), "1");
-    }
-}
-
-TEST(Move, BestScoreFollowsTheScoreOnlyAboveIt) {
-    struct Row {
-        const char *stored, *afterDeal, *afterMove;
-    };
-    const std::vector<Row> table{{"120", "120", "120"}, {"7", "7", "8"},  {"8", "8", "8"},      {"abc", "0", "8"},
-                                 {"", "0", "8"},        {"-5", "0", "8"}, {"1e9", "1e9", "1e9"}};
-    for (const Row& row : table) {
-        World world;
-        world.set("0", row.stored);
-        world.open(columns);
-        EXPECT_EQ(world.text("Label4"), row.afterDeal) << row.stored;
-        world.press(0);
-        EXPECT_EQ(world.text("Label4"), row.afterMove) << row.stored;
-        EXPECT_EQ(world.stored("0"), row.afterMove) << row.stored;
     }
 }
 

@@ -23,22 +23,6 @@ TEST(NewGame, WindowAfterASecondGameIsThatOfAFirstOne) {
     }
 }
 
-TEST(NewGame, AnyTextInTheBoxesGivesABoardAndIsCorrected) {
-    World world;
-    world.open();
-    struct Row {
-        const char *Col, *Lig;
-        int NbCol, NbLig;
-    };
-    for (const Row& row : {Row{"", "x", 8, 14}, Row{"-5", "5000", 8, 58}, Row{"10.5", "1e3", 10, 14}}) {
-        world.type(row.Col, row.Lig);
-        world.command(0);
-        EXPECT_EQ(world.box(1), std::to_string(row.NbCol));
-        EXPECT_EQ(world.box(0), std::to_string(row.NbLig));
-        EXPECT_EQ(world.game().Total, row.NbCol * row.NbLig);
-    }
-}
-
 TEST(NewGame, LevelTakesEffectAtTheDealAndResetMeansTheLevelPlayed) {
     World world;
     world.set("1", "50");

@@ -8,18 +8,6 @@
 namespace mainwindow {
 namespace {
 
-TEST(Startup, EmptyStoreGivesTheDefaults) {
-    World world;
-    world.open();
-    EXPECT_TRUE(world.control<QRadioButton>("Option1", 0)->isChecked());
-    EXPECT_EQ(world.box(1), "25");
-    EXPECT_EQ(world.box(0), "25");
-    EXPECT_TRUE(world.control<QCheckBox>("Check1")->isChecked());
-    EXPECT_EQ(world.stored("Niveau"), "0");
-    EXPECT_EQ(world.stored("Col"), "absent") << "sizes are stored at closing";
-    EXPECT_EQ(world.window->geometry(), QRect(431, 250, 738, 567));
-}
-
 TEST(Startup, StoredValuesOfAnyKindGiveAGame) {
     struct Row {
         const char *Niveau, *Son;
@@ -39,20 +27,6 @@ TEST(Startup, StoredValuesOfAnyKindGiveAGame) {
         EXPECT_EQ(world.game().NbCoul, row.level + 2) << row.Niveau;
         EXPECT_EQ(world.control<QCheckBox>("Check1")->isChecked(), row.sound) << row.Son;
     }
-}
-
-TEST(Startup, BoxesAreStoredAsTypedAndReadAgain) {
-    World world;
-    world.open();
-    world.type("40 é\\n", "16");
-    world.control<QCheckBox>("Check1")->click();
-    EXPECT_TRUE(world.window->close());
-    EXPECT_EQ(world.stored("Col"), "40 é\\n");
-    EXPECT_EQ(world.stored("Lig"), "16");
-    EXPECT_EQ(world.stored("Son"), "0");
-    world.open();
-    EXPECT_EQ(world.game().board.NbCol, 40);
-    EXPECT_EQ(world.game().board.NbLig, 16);
 }
 
 }  // namespace

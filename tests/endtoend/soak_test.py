@@ -4,7 +4,7 @@
 
 """Plays many games, or lets an animation run for long, and watches what the program holds: nothing may grow.
 
-ZAMPOTINE_ROUNDS in the environment says how often it is looked at.
+ROUNDS in the environment says how often it is looked at.
 """
 import os
 import pathlib
@@ -25,7 +25,7 @@ class Soak(Case):
         # Without what malloc puts aside, memory that is in use can be counted to the byte.
         with self.desktop(session={"GLIBC_TUNABLES": "glibc.malloc.tcache_count=0"}) as desktop:
             (desktop.home / f"{PROGRAM.stem}.ini").write_text("[init]\nSon=0\nCol=8\nLig=14\n")
-            process = desktop.start(PROGRAM, what, os.environ.get("ZAMPOTINE_ROUNDS", "3"), str(each),
+            process = desktop.start(PROGRAM, what, os.environ.get("ROUNDS", "3"), str(each),
                                     input=subprocess.PIPE, output=subprocess.PIPE)
             window = wait_for("the window", lambda: desktop.xdotool("search", "--onlyvisible", "--pid", process.pid))
             display, samples = Display(desktop.environment["DISPLAY"]), []

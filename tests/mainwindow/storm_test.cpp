@@ -224,7 +224,7 @@ TEST_P(Storms, LeaveTheGameInOrder) {
     storm.window.reset();
 }
 
-const int rounds = std::max(qEnvironmentVariableIntValue("ZAMPOTINE_ROUNDS"), 1);
+const int rounds = std::max(qEnvironmentVariableIntValue("ROUNDS"), 1);
 INSTANTIATE_TEST_SUITE_P(Seeds, Storms, testing::Range(0, storms* rounds));
 
 }  // namespace

@@ -3,7 +3,6 @@
 
 #include "tests/faults/faults.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -22,6 +21,8 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "platform/shared_library.h"
 
 namespace faults {
 
@@ -70,35 +71,43 @@ int faultOf(const char* operation, int descriptor) {
     return length < 0 ? 0 : faultOf(operation, {path.data(), static_cast<std::size_t>(length)});
 }
 
-/// The call itself, or its failure. What cannot be done by half fails in full where it is to be cut short.
-template <typename... Arguments>
-auto call(const char* name, int fault, auto function(Arguments...), Arguments... arguments) {
-    if (fault != 0) {
-        errno = fault == cutShort ? EIO : fault;
-        return static_cast<decltype(function(arguments...))>(-1);
-    }
-    return reinterpret_cast<decltype(function)>(dlsym(RTLD_NEXT, name))(arguments...);
+/// What a call returns that fails. What cannot be done by half fails in full where it is to be cut short.
+int failure(int fault) {
+    errno = fault == cutShort ? EIO : fault;
+    return -1;
+}
+
+template <typename Function>
+Function* original(const char* name, Function* function) {
+    platform::resolve(RTLD_NEXT, name, function);
+    return function;
+}
+
+/// The call itself, or its failure, by what strikes this operation on a path or descriptor.
+template <typename Function, typename... Arguments>
+auto call(const char* name, auto where, Function* function, Arguments... arguments) {
+    const int fault = faultOf(name, where);
+    return fault != 0 ? failure(fault) : original(name, function)(arguments...);
 }
 
 /// A read or write of `size` bytes, or of as many as the fault leaves.
-template <typename Bytes>
-ssize_t transfer(const char* name, ssize_t function(int, Bytes*, size_t), int descriptor, Bytes* bytes, size_t size) {
+template <typename Function, typename Bytes>
+ssize_t transfer(const char* name, Function* function, int descriptor, Bytes* bytes, size_t size) {
     const int fault = faultOf(name, descriptor);
-    return fault == cutShort ? call(name, 0, function, descriptor, bytes, size / 2)
-                             : call(name, fault, function, descriptor, bytes, size);
+    const size_t done = fault == cutShort ? size / 2 : size;
+    return fault > 0 ? failure(fault) : original(name, function)(descriptor, bytes, done);
 }
 
 /// Without the disk, for which thousands of saves would wait: no test cuts the power.
 int sync(const char* name, int descriptor) {
     const int fault = faultOf(name, descriptor);
-    errno = fault == cutShort ? EIO : fault;
-    return fault == 0 ? 0 : -1;
+    return fault != 0 ? failure(fault) : 0;
 }
 
 }  // namespace
 }  // namespace faults
 
-// NOLINTBEGIN(cert-dcl50-cpp): the functions of the system are variadic
+// NOLINTBEGIN(cert-dcl50-cpp,readability-inconsistent-declaration-parameter-name): they are the system's
 extern "C" {
 
 int open(const char* path, int flags, ...) {
@@ -106,8 +115,8 @@ int open(const char* path, int flags, ...) {
     va_start(more, flags);
     const auto mode = va_arg(more, mode_t);
     va_end(more);
-    using Open = int (*)(const char*, int, mode_t);
-    return faults::call("open", faults::faultOf("open", path), reinterpret_cast<Open>(&open), path, flags, mode);
+    const int fault = faults::faultOf("open", path);
+    return fault != 0 ? faults::failure(fault) : faults::original("open", &open)(path, flags, mode);
 }
 int open64(const char* path, int flags, ...) __attribute__((alias("open")));
 
@@ -124,19 +133,17 @@ int fdatasync(int descriptor) {
     return faults::sync("fdatasync", descriptor);
 }
 int flock(int descriptor, int operation) noexcept {
-    const int fault = faults::faultOf("flock", descriptor);
-    return faults::call("flock", fault, &flock, descriptor, operation);
+    return faults::call("flock", descriptor, &flock, descriptor, operation);
 }
 int linkat(int oldFolder, const char* oldPath, int newFolder, const char* newPath, int flags) noexcept {
-    const int fault = faults::faultOf("linkat", newPath);
-    return faults::call("linkat", fault, &linkat, oldFolder, oldPath, newFolder, newPath, flags);
+    return faults::call("linkat", newPath, &linkat, oldFolder, oldPath, newFolder, newPath, flags);
 }
 int rename(const char* oldPath, const char* newPath) noexcept {
-    return faults::call("rename", faults::faultOf("rename", newPath), &rename, oldPath, newPath);
+    return faults::call("rename", newPath, &rename, oldPath, newPath);
 }
 int stat(const char* path, struct stat* status) noexcept {
-    return faults::call("stat", faults::faultOf("stat", path), &stat, path, status);
+    return faults::call("stat", path, &stat, path, status);
 }
 
 }  // extern "C"
-// NOLINTEND(cert-dcl50-cpp)
+// NOLINTEND(cert-dcl50-cpp,readability-inconsistent-declaration-parameter-name)

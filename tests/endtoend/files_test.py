@@ -128,14 +128,17 @@ class Files(unittest.TestCase):
                 self.assertTrue(stays(ini))
 
     def test_values(self):
-        for value, best in {"99999999999999999999": "99999999999999999999", "-5": "0", "1e9": "1e9", "1, 2": "0"}.items():
-            keys = ("Niveau", "Col", "Lig", "Son", "0")
-            content = "[init]\n" + "".join(f"{key}={value}\n" for key in keys)
+        for value, level, sound, best in (
+            ("99999999999999999999", "0", "1", "99999999999999999999"), ("-5", "0", "1", "0"), ("1e9", "0", "1", "1e9"),
+            ("1, 2", "0", "1", "0"), ("", "0", "1", "0"), ("nan", "0", "1", "0"), ("1.6", "2", "1", "1.6"),
+            ("0.4", "0", "0", "0.4"), ("4.4", "4", "1", "4.4"), ("5", "0", "1", "5"),
+        ):
+            content = "[init]\n" + "".join(f"{key}={value}\n" for key in ("Niveau", "Col", "Lig", "Son", "0"))
             with self.subTest(value=value), self.home(content.encode()) as ini:
                 self.run_once(ini)
-                level, columns, rows, sound, stored = re.findall("=(.*)", ini.read_text())
-                self.assertEqual((level, sound, stored), ("0", "1", best))
-                self.assertTrue(8 <= int(columns) <= 1000 and 14 <= int(rows) <= 1000)
+                stored = re.findall("=(.*)", ini.read_text())
+                self.assertEqual((stored[0], *stored[3:]), (level, sound, best))
+                self.assertTrue(8 <= int(stored[1]) <= 1000 and 14 <= int(stored[2]) <= 1000)
 
     def test_homes(self):
         for base, unset, place in (("relative", (), ".config/"), ("", (), ".config/"), ("relative", ("HOME",), None),

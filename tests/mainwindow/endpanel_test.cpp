@@ -35,16 +35,24 @@ TEST(EndPanel, LineShowsWhenTheBestScoreIsReached) {
     }
 }
 
-TEST(EndPanel, RunsAgainInTheNextGame) {
+TEST(EndPanel, StaysUntilItOrANewGameIsClickedAndRunsAgain) {
     World world;
     world.open("r r b");
+    auto* panel = world.control<QWidget>("Frame1");
+    const auto isBold = [&] { return world.control("sc")->font().bold() && world.control("Label3")->font().bold(); };
     for (int game = 0; game < 3; ++game) {
         world.finish();
+        EXPECT_TRUE(isBold());
+        for (const char* child : {"Label1", "Label7", "ir"}) {
+            QTest::mouseClick(world.control<QWidget>(child), Qt::LeftButton);
+            EXPECT_TRUE(panel->isVisible()) << child << " does not close the panel";
+        }
         const auto* ball = world.control<QWidget>("ip");
         const QPoint before = ball->pos();
         EXPECT_TRUE(QTest::qWaitFor([&] { return ball->pos() != before; }));
+        game == 0 ? QTest::mouseClick(panel, Qt::LeftButton, {}, {2, panel->height() - 2}) : world.command(0);
+        EXPECT_FALSE(panel->isVisible() || isBold());
         world.command(0);
-        EXPECT_FALSE(world.control<QWidget>("Frame1")->isVisible());
     }
 }
 

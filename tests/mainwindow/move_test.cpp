@@ -27,39 +27,6 @@ TEST(Move, PressShowsReportsAndPlaysTheMoveWithAnyButton) {
     }
 }
 
-TEST(Move, GameEndsWithThePanelThatAClickOrANewGameHides) {
-    struct Row {
-        const char *what, *board;
-        std::vector<int> presses;
-        const char* score;
-        bool byClick;
-    };
-    const std::vector<Row> table{
-        {"one ball left", "r r b", {0}, "4", true},
-        {"a cleared board counts double", "rb rb", {0, 0}, "16", false},
-    };
-    for (const Row& row : table) {
-        World world;
-        world.open(row.board);
-        auto* panel = world.control<QWidget>("Frame1");
-        for (const int i : row.presses) {
-            EXPECT_FALSE(panel->isVisible());
-            world.press(i);
-        }
-        EXPECT_TRUE(panel->isVisible()) << row.what;
-        EXPECT_EQ(world.text("sc"), row.score) << row.what;
-        EXPECT_EQ(world.stored("0"), row.score) << row.what;
-        EXPECT_TRUE(world.control("sc")->font().bold() && world.control("Label3")->font().bold());
-        for (const char* child : {"Label1", "Label7", "ir"}) {
-            QTest::mouseClick(world.control<QWidget>(child), Qt::LeftButton);
-            EXPECT_TRUE(panel->isVisible()) << child << " does not close the panel";
-        }
-        row.byClick ? QTest::mouseClick(panel, Qt::LeftButton, {}, {2, panel->height() - 2}) : world.command(0);
-        EXPECT_FALSE(panel->isVisible()) << row.what;
-        EXPECT_FALSE(world.control("sc")->font().bold() || world.control("Label3")->font().bold());
-    }
-}
-
 TEST(Move, SoundDeviceOpensWhileTheBallsVanishButNeverInVain) {
     World world;
     world.open("r r b");

@@ -6,8 +6,10 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "animation/bounce.h"
 #include "platform/controls.h"
 #include "platform/label.h"
+#include "platform/twips.h"
 #include "tests/ink.h"
 
 namespace about {
@@ -17,7 +19,7 @@ using platform::Label;
 
 struct OpenAbout {
     int closed = 0;
-    About window{{0, 0, 24'000, 18'000}, [] { return 0.3; }, [this] { ++closed; }};
+    About window{{0, 0, 24'000, 18'000}, [] { return 0.998; }, [this] { ++closed; }};  // the balls at the far edges
 
     OpenAbout() { window.show(); }
 
@@ -85,14 +87,23 @@ TEST(About, EveryWayOfClosingTellsOnceTheWindowIsHidden) {
     }
 }
 
-TEST(About, BallsRestWhileTheWindowIsHiddenAndGoOnAfterwards) {
+TEST(About, BallsFollowTheirRuleRestWhileTheWindowIsHiddenAndGoOnAfterwards) {
     OpenAbout about;
     const auto* ball = platform::control<QWidget>(about.window, "ip");
+    const QSize field = about.window.size() * platform::twipsPerPixel;
+    animation::Balls balls = animation::scatter(field.width(), field.height(), [] { return 0.998; });
+    const auto place = [&] { return QPoint(platform::toPixels(balls[0].PosX), platform::toPixels(balls[0].PosY)); };
+    animation::pass(balls, field.width(), field.height());
+    EXPECT_EQ(ball->pos(), place()) << "not on its way when the window shows";
     const auto moves = [&] {
         const QPoint before = ball->pos();
         return QTest::qWaitFor([&] { return ball->pos() != before; }, 300);
     };
-    EXPECT_TRUE(moves());
+    EXPECT_TRUE(moves() && moves() && moves());
+    for (int passes = 0; passes < 100 && ball->pos() != place(); ++passes) {
+        animation::pass(balls, field.width(), field.height());
+    }
+    EXPECT_EQ(ball->pos(), place());
     about.window.hide();
     EXPECT_FALSE(moves());
     about.window.show();

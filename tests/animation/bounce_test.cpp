@@ -46,10 +46,10 @@ TEST(Bounce, BallNeverLeavesEvenAFieldSmallerThanItself) {
 TEST(Bounce, ScatterTakesFourDrawsABallInTheirOrder) {
     int draws = 0;
     const std::array sequence{0.489, 0.49, 0.5, 0.25};  // the last draw that means -1, the first that means +1
-    const Balls balls = scatter(305, 310, [&] { return sequence[draws++ % 4]; });
+    const Balls balls = scatter(315, 310, [&] { return sequence[draws++ % 4]; });
     EXPECT_EQ(draws, 24);
     for (const Ball& ball : balls) {
-        EXPECT_EQ(ball, (Ball{2, 2, -1, 1})) << "a half goes to the even neighbour";
+        EXPECT_EQ(ball, (Ball{8, 2, -1, 1})) << "a half goes to the even neighbour";
     }
 }
 

@@ -134,10 +134,10 @@ class EndToEnd(Case):
                 self.assertEqual(player.geometry(), place)
                 self.assertEqual(player.board(), board)
             about = player.open_about()
-            for _ in range(3):
-                player.desktop.xdotool("windowminimize", about)
-                wait_for("the icon", lambda: not player.visible())
-                player.desktop.xdotool("windowactivate", about)
+            for go, come in (("windowunmap", "windowmap"), ("windowminimize", "windowactivate")) * 2:
+                player.desktop.xdotool(go, about)
+                wait_for("no window", lambda: not player.visible())
+                player.desktop.xdotool(come, about)
                 player.expect_window("the About window", lambda window: window == about)
                 time.sleep(0.3)  # until all of it is painted
                 still = player.look((0, 0), (413, 344), about)

@@ -3,6 +3,8 @@
 
 #include "rules/deal.h"
 
+#include <set>
+
 #include "tests/rules/pictures.h"
 
 namespace rules {
@@ -17,6 +19,7 @@ Game dealt(int NbCol, int NbLig, int Diff, const Draw& draw) {
 
 TEST(Deal, FilledCellsPassTheBallOnAndTheLastOnePassesItToTheFirst) {
     EXPECT_EQ(dealt(3, 2, 0, [] { return 0.0F; }).board, picture("rrr bbb"));
+    EXPECT_EQ(dealt(0, -1, 0, [] { return 0.0F; }).board, picture("r")) << "a board without cells";
     const float justBelowOne = 0x1.fffffep-1F;
     EXPECT_EQ(dealt(3, 2, 1, [=] { return justBelowOne; }).board, picture("brv vbr"));
 }
@@ -24,12 +27,15 @@ TEST(Deal, FilledCellsPassTheBallOnAndTheLastOnePassesItToTheFirst) {
 TEST(Deal, StartsAnewAfterAGame) {
     Game game{.Total = 5, .NBBoules = 500, .NbCoul = 2, .Diff = 0, .score = 99};
     resizeBoard(game, 9, 15);
-    deal(game, 7, Random(4));  // a level that does not exist is the nearest one
-    EXPECT_EQ(game.score, 0);
     EXPECT_EQ(game.Total, 9 * 15);
-    EXPECT_EQ(game.NBBoules, 9 * 15);
-    EXPECT_EQ(game.NbCoul, 6);
-    EXPECT_EQ(game.Diff, 4);
+    for (const auto& [asked, nearest] : {std::pair{7, 4}, {-1, 0}}) {
+        deal(game, asked, Random(4));
+        EXPECT_EQ(game.score, 0);
+        EXPECT_EQ(game.Total, 9 * 15);
+        EXPECT_EQ(game.NBBoules, 9 * 15);
+        EXPECT_EQ(game.NbCoul, nearest + 2);
+        EXPECT_EQ(game.Diff, nearest);
+    }
 }
 
 TEST(Random, NumbersAreUniformOverTheUnitInterval) {
@@ -47,7 +53,9 @@ TEST(Random, NumbersAreUniformOverTheUnitInterval) {
 }
 
 TEST(Random, EverySeedFromTheClockIsAnother) {
-    EXPECT_NE(seedFromClock(), seedFromClock());
+    std::set<std::uint64_t> seeds;
+    std::generate_n(std::inserter(seeds, seeds.end()), 1000, seedFromClock);
+    EXPECT_EQ(seeds.size(), 1000);
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ TEST(Groups, AreConnectedByNeighboursOfOneColourAndNotAcrossEdgesOrCorners) {
     EXPECT_EQ(groupSizes(board), (std::vector{1, 0, 1, 1, 3, 2, 3, 3, 2})) << "column by column";
     GroupSizes sizes;
     EXPECT_EQ(sizes.at(board, 7), 3);
-    EXPECT_EQ(sizes.at(picture("rb br"), 1), 1) << "another board";
+    EXPECT_EQ(sizes.at(picture("rbr brb rbr"), 7), 1) << "another board";
 }
 
 }  // namespace

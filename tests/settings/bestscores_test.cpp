@@ -33,23 +33,23 @@ TEST_F(BestScores, FollowAScoreThatPassesThemAndStartAnewAfterAReset) {
     };
     for (const auto& [stored, score, best] : rows) {
         SCOPED_TRACE(testing::PrintToString(stored) + " and " + testing::PrintToString(score));
-        folder.put("[init]\n1=" + stored.toUtf8() + "\n3=40\n");
+        folder.put("[init]\n0=" + stored.toUtf8() + "\n4=40\n");
         scores.load();
-        scores.sc_Change(1, score);
-        EXPECT_EQ(scores.hsc(1), best);
-        EXPECT_EQ(scores.hsc(3), u"40"_s);
-        EXPECT_EQ(folder.bytes(), "[init]\n1=" + best.toUtf8() + "\n3=40\n");
-        scores.reset(1);
-        EXPECT_EQ(folder.bytes(), "[init]\n1=0\n3=40\n");
-        scores.sc_Change(1, u"2"_s);
-        EXPECT_EQ(folder.bytes(), "[init]\n1=2\n3=40\n");
+        scores.sc_Change(0, score);
+        EXPECT_EQ(scores.hsc(0), best);
+        EXPECT_EQ(scores.hsc(4), u"40"_s);
+        EXPECT_EQ(folder.bytes(), "[init]\n0=" + best.toUtf8() + "\n4=40\n");
+        scores.reset(0);
+        EXPECT_EQ(folder.bytes(), "[init]\n0=0\n4=40\n");
+        scores.sc_Change(0, u"2"_s);
+        EXPECT_EQ(folder.bytes(), "[init]\n0=2\n4=40\n");
     }
 }
 
-TEST_F(BestScores, TakeOverAHigherScoreOfAnotherCopy) {
-    folder.put("[init]\n0=500\n");
+TEST_F(BestScores, TakeOverAScoreAsHighOfAnotherCopy) {
+    folder.put("[init]\n0=130.0\n");
     scores.sc_Change(0, u"130"_s);
-    EXPECT_EQ(scores.hsc(0), u"500"_s);
+    EXPECT_EQ(scores.hsc(0), u"130.0"_s);
 }
 
 TEST_F(BestScores, OtherLevelsHaveNone) {

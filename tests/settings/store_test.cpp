@@ -35,6 +35,8 @@ TEST_F(StoreTest, NeedsNoFileAndCreatesItsFolderAtTheFirstSave) {
     const QString deep = folder.folder.filePath(u"new/deep/game.ini"_s);
     Store(deep).write(init, col, u"30"_s);
     EXPECT_EQ(Store(deep).read(init, col, none), u"30"_s);
+    Store(folder.folder.filePath(u"own/game.ini"_s)).write(init, col, u"30"_s);
+    EXPECT_FALSE(QFileInfo(folder.folder.filePath(u"own"_s)).permissions() & 0xFF) << "open to others";
 
     folder.put("[init]\nCol=30\n", u".bak"_s);
     EXPECT_EQ(store.read(init, col, none), none) << "a file that was removed stays so";
@@ -42,12 +44,13 @@ TEST_F(StoreTest, NeedsNoFileAndCreatesItsFolderAtTheFirstSave) {
     Store memory{QString()};
     EXPECT_EQ(memory.raise(init, zero, u"5"_s), u"5"_s);
     EXPECT_EQ(memory.raise(init, zero, u"4"_s), u"5"_s);
+    EXPECT_EQ(memory.raise(init, zero, u"6"_s), u"6"_s);
 }
 
 TEST_F(StoreTest, SavesWholeThroughALinkAndOnlyWhenSomethingChanges) {
     folder.put("; mine\n[other]\nx=y\n[init]\nLig=2\n", u".real"_s);
-    for (const QString& leftover :
-         {u".real.aBcDeF"_s, u".bak.GhIjKl"_s, u".real.backup"_s, u".real.Ancien"_s, u".real.aBcDeFg"_s}) {
+    for (const QString& leftover : {u".real.aBcDeF"_s, u".bak.GhIjKl"_s, u".bad.MnOpQr"_s, u".real.backup"_s,
+                                    u".real.Ancien"_s, u".real.VIEUXX"_s, u".real.aBcDeFg"_s, u".real-aBcDeF"_s}) {
         folder.put("[init]\nLig=1", leftover);
     }
     chmod(QFile::encodeName(folder.ini + u".real"_s).constData(), 0640);
@@ -57,8 +60,8 @@ TEST_F(StoreTest, SavesWholeThroughALinkAndOnlyWhenSomethingChanges) {
     EXPECT_EQ(folder.bytes(u".bak"_s), folder.bytes(u".real"_s));
     EXPECT_EQ(QFileInfo(folder.ini).permissions() & 0xFFF, QFile::Permissions::fromInt(0x640));
     EXPECT_EQ(folder.names().join(u' '),
-              u"game.ini game.ini.bak game.ini.lock game.ini.real game.ini.real.aBcDeFg game.ini.real.Ancien "
-              u"game.ini.real.backup"_s);
+              u"game.ini game.ini.bak game.ini.lock game.ini.real game.ini.real-aBcDeF game.ini.real.aBcDeFg "
+              u"game.ini.real.Ancien game.ini.real.backup game.ini.real.VIEUXX"_s);
     folder.put("damaged", u".bak"_s);
     store.write(init, col, u"30"_s);
     EXPECT_EQ(folder.bytes(u".bak"_s), "damaged");
@@ -69,6 +72,9 @@ TEST_F(StoreTest, ATextBeyondTheSizeThatIsReadHoldsNothingElseBack) {
     store.write(init, col, u"30"_s);
     EXPECT_EQ(folder.bytes(), "[init]\nCol=30\n");
     EXPECT_EQ(store.read(init, u"Lig"_s, none).size(), 1 << 20);
+    const QString longest((1 << 20) - folder.bytes().size() - 5, u'x');  // beside "Lig=" and the end of its line
+    store.write(init, u"Lig"_s, longest);
+    EXPECT_EQ(Store(folder.ini).read(init, u"Lig"_s, none), longest);
 }
 
 TEST_F(StoreTest, TwoCopiesNeverLowerABestScore) {

@@ -12,8 +12,8 @@
 #include <thread>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QIODevice>
-#include <QSaveFile>
 #include <QTemporaryFile>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -26,20 +26,33 @@ namespace settings {
 
 namespace {
 
-/// Whether Qt may have made the name for a temporary file beside the other one. It appends six letters at
-/// random; those that a person may have written are spared (one of 22), since `settings.ini.Backup` would be
-/// somebody's copy.
+// Of the file that takes the place of another one, behind a dot and six letters. Whatever ends so is ours to remove.
+constexpr std::string_view temporarySuffix = ".part";
+
 bool isTemporaryName(std::string_view name, std::string_view original) {
-    const auto isUpper = [](char c) { return c >= 'A' && c <= 'Z'; };
-    const auto isLetter = [=](char c) { return isUpper(c) || (c >= 'a' && c <= 'z'); };
-    if (name.size() != original.size() + 7 || !name.starts_with(original) || name[original.size()] != '.') {
-        return false;
-    }
-    const std::string_view letters = name.substr(original.size() + 1);
-    const auto isWord = [=](std::string_view word) { return std::ranges::none_of(word, isUpper); };
-    return std::ranges::all_of(letters, isLetter) && !isWord(letters.substr(1)) &&
-           !std::ranges::all_of(letters, isUpper);
+    return name.size() == original.size() + 7 + temporarySuffix.size() && name.starts_with(original) &&
+           name[original.size()] == '.' && name.ends_with(temporarySuffix);
 }
+
+/// Where a symbolic link leads to in the end, even if nothing is there; any other path is its own target.
+QString targetOf(const QString& path) {
+    const QFileInfo file(path);
+    if (!file.isSymLink()) {
+        return path;
+    }
+    return file.exists() ? file.canonicalFilePath() : file.symLinkTarget();
+}
+
+/// A file that is removed again unless it is moved in the place of the other one.
+struct Replacement : QTemporaryFile {
+    explicit Replacement(const QString& path)
+        : QTemporaryFile(path + u".XXXXXX"_s + QLatin1StringView(temporarySuffix)), place(QFile::encodeName(path)) {}
+
+    bool holds(const QByteArray& bytes) { return open() && write(bytes) == bytes.size() && flush(); }
+    bool moves() const { return std::rename(QFile::encodeName(fileName()).constData(), place.constData()) == 0; }
+
+    QByteArray place;
+};
 
 }  // namespace
 
@@ -67,23 +80,23 @@ FileContent readFile(const QString& path) {
 }
 
 bool replaceFile(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    // commit() ignores a failed flush and a failed sync.
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
-           fdatasync(file.handle()) == 0 && file.commit();
+    const QFileInfo old(targetOf(path));
+    if (old.exists() && !old.isWritable()) {
+        return false;
+    }
+    Replacement file(old.filePath());
+    return file.holds(bytes) && (!old.exists() || file.setPermissions(old.permissions())) &&
+           fdatasync(file.handle()) == 0 && file.moves();
 }
 
 bool replaceCopy(const QString& path, const QByteArray& bytes) {
-    QTemporaryFile file(path + u".XXXXXX"_s);
-    return file.open() && file.write(bytes) == bytes.size() && file.flush() &&
-           std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData()) == 0;
+    Replacement file(path);
+    return file.holds(bytes) && file.moves();
 }
 
 void removeLeftovers(const QString& path) {
     std::error_code error;
-    const std::filesystem::path name = QFile::encodeName(path).toStdString();
-    const std::filesystem::path target = canonical(name, error);
-    const std::filesystem::path& file = target.empty() ? name : target;
+    const std::filesystem::path file = QFile::encodeName(targetOf(path)).toStdString();
     // Not QDir, which looks at each file of what may be a large folder.
     std::filesystem::directory_iterator entry(file.parent_path(), error);
     for (; entry != end(entry); entry.increment(error)) {

@@ -29,8 +29,8 @@ struct FileContent {
 FileContent readFile(const QString& path);
 
 /// Puts the bytes in the place of the file, which at every moment holds either the old or the new ones, even
-/// over a power cut. Its mode stays, and so does a symbolic link that leads to it. False if it still holds
-/// the old ones.
+/// over a power cut. Its mode stays, and so does a symbolic link that leads to it; a new one is for its owner alone.
+/// False if it still holds the old ones, which one that may not be written to does.
 bool replaceFile(const QString& path, const QByteArray& bytes);
 
 /// Like `replaceFile`, but does not wait for the disk, so that a power cut may leave anything; neither mode

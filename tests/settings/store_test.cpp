@@ -49,8 +49,8 @@ TEST_F(StoreTest, NeedsNoFileAndCreatesItsFolderAtTheFirstSave) {
 
 TEST_F(StoreTest, SavesWholeThroughALinkAndOnlyWhenSomethingChanges) {
     folder.put("; mine\n[other]\nx=y\n[init]\nLig=2\n", u".real"_s);
-    for (const QString& leftover : {u".real.aBcDeF"_s, u".bak.GhIjKl"_s, u".bad.MnOpQr"_s, u".real.backup"_s,
-                                    u".real.Ancien"_s, u".real.VIEUXX"_s, u".real.aBcDeFg"_s, u".real-aBcDeF"_s}) {
+    for (const QString& leftover : {u".real.aBcDeF.part"_s, u".bak.ghijkl.part"_s, u".bad.MNOPQR.part"_s,
+                                    u".real.backup"_s, u".real.aBcDeFg.part"_s, u".real-aBcDeF.part"_s}) {
         folder.put("[init]\nLig=1", leftover);
     }
     chmod(QFile::encodeName(folder.ini + u".real"_s).constData(), 0640);
@@ -60,8 +60,8 @@ TEST_F(StoreTest, SavesWholeThroughALinkAndOnlyWhenSomethingChanges) {
     EXPECT_EQ(folder.bytes(u".bak"_s), folder.bytes(u".real"_s));
     EXPECT_EQ(QFileInfo(folder.ini).permissions() & 0xFFF, QFile::Permissions::fromInt(0x640));
     EXPECT_EQ(folder.names().join(u' '),
-              u"game.ini game.ini.bak game.ini.lock game.ini.real game.ini.real-aBcDeF game.ini.real.aBcDeFg "
-              u"game.ini.real.Ancien game.ini.real.backup game.ini.real.VIEUXX"_s);
+              u"game.ini game.ini.bak game.ini.lock game.ini.real game.ini.real-aBcDeF.part "
+              u"game.ini.real.aBcDeFg.part game.ini.real.backup"_s);
     folder.put("damaged", u".bak"_s);
     store.write(init, col, u"30"_s);
     EXPECT_EQ(folder.bytes(u".bak"_s), "damaged");

@@ -9,8 +9,8 @@
 #include "assets/pictures.h"
 #include "mainwindow/balls.h"
 #include "platform/look.h"
+#include "platform/process.h"
 #include "platform/screen.h"
-#include "platform/signals.h"
 #include "platform/sound.h"
 #include "platform/yield.h"
 #include "rules/random.h"
@@ -35,7 +35,7 @@ QIcon windowIcon() {
 }  // namespace
 
 int main(int, char* argv[]) {
-    platform::surviveFailedWrites();
+    platform::prepareProcess();
     // There is no command line: the toolkit would take options of its own from it.
     int argc = 1;
     const QApplication application(argc, argv);

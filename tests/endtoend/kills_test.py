@@ -9,6 +9,7 @@ import random
 import re
 import signal
 import statistics
+import subprocess
 import time
 
 import model
@@ -20,14 +21,11 @@ SMALL = "Col=8\nLig=14\n"
 
 
 def press_largest_group(player, board):
-    """Returns the points that it is worth, at once."""
+    """Returns the points that it is worth, when its first balls are gone."""
     balls = model.groups(board)[-1]
     player.act(centre(min(balls)), "click", 1)
+    wait_for("a move", lambda: player.board() != board)
     return model.points(len(balls))
-
-
-def reach_idle(player):
-    return 0
 
 
 def reach_removal(player):
@@ -35,8 +33,9 @@ def reach_removal(player):
 
 
 def reach_sound(player):
+    player.desktop.loudspeaker.write_bytes(b"")
     points = reach_removal(player)
-    wait_for("the sound", player.desktop.loudspeaker.exists)
+    wait_for("the sound", lambda: any(player.desktop.loudspeaker.read_bytes()))
     return points
 
 
@@ -57,7 +56,8 @@ def reach_end_panel(player):
     return score
 
 
-REACH = {reach_idle: "0", reach_removal: "0", reach_sound: "1", reach_about: "0", reach_end_panel: "0"}  # sound switch
+REACH = {"idle": lambda player: 0, "removal": reach_removal, "sound": reach_sound, "About": reach_about,
+         "end panel": reach_end_panel}
 
 
 class Kills(Case):
@@ -107,56 +107,60 @@ class Kills(Case):
             player.process.terminate()
             self.assertEqual(player.process.wait(PATIENCE), 0)
             self.assertEqual(sorted(left.suffix for left in desktop.home.glob("*.ini*")), [".bak", ".ini", ".lock"])
-            print(f"{rounds} kills; seconds to a board after one: {statistics.median(starts):.2f}, at most {max(starts):.2f}")
+            print(f"{rounds} kills; seconds to a board: {statistics.median(starts):.2f}, at most {max(starts):.2f}")
 
     def test_signals(self):
         signals = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)
         with self.desktop() as desktop:
-            for reach, number in list(itertools.product(REACH, signals))[::int(os.environ.get("STRIDE", 2))]:
-                with self.subTest(reach=reach, signal=number):
-                    desktop.loudspeaker.unlink(missing_ok=True)
-                    player = Player(desktop, PROGRAM, f"{SMALL}Son={REACH[reach]}\n")
-                    score = reach(player)
+            for state, number in list(itertools.product(REACH, signals))[::int(os.environ.get("STRIDE", 2))]:
+                with self.subTest(state=state, signal=number):
+                    sound = str(int(state == "sound"))
+                    player = Player(desktop, PROGRAM, f"{SMALL}Son={sound}\n")
+                    score = REACH[state](player)
                     player.process.send_signal(number)
                     self.assertEqual(player.process.wait(PATIENCE), 0)
-                    stored = {"Niveau": "0", "Col": "8", "Lig": "14", "Son": REACH[reach]}
+                    stored = {"Niveau": "0", "Col": "8", "Lig": "14", "Son": sound}
                     self.assertEqual(player.stored(), stored | ({"0": str(score)} if score else {}))
 
     def test_session_end(self):
-        with self.desktop() as desktop:
-            (desktop.home / ".xsmstartup").write_text('sh -c "echo $SESSION_MANAGER >address"\n')
-            desktop.start("xsm")
-            address = desktop.home / "address"
-            wait_for("the session manager", lambda: address.exists() and address.read_text())
-            desktop.environment["SESSION_MANAGER"] = address.read_text().strip()
-            player = Player(desktop, PROGRAM, f"{SMALL}Son=0\n")
-            player.enter("17", "19")
-            player.open_about()
-            manager = desktop.xdotool("search", "--onlyvisible", "^xsm").strip()
-            desktop.xdotool("windowactivate", "--sync", manager)
-            player.act((143, 28), "mousedown", 1, "sleep", 0.3, (143, 57), "sleep", 0.3, "mouseup", 1, window=manager)
-            dialog = wait_for("its dialog", lambda: desktop.xdotool("search", "--onlyvisible", "^Shutdown$").strip())
-            player.act((170, -2), "click", 1, "type", "name", window=dialog)
-            player.act((48, 117), "click", 1, window=dialog)
-            self.assertEqual(player.process.wait(PATIENCE), 0)
-            self.assertEqual(player.stored(), {"Niveau": "0", "Col": "17", "Lig": "19", "Son": "0"})
+        for is_orderly in (True, False):
+            with self.subTest(is_orderly=is_orderly), self.desktop() as desktop:
+                (desktop.home / ".xsmstartup").write_text('sh -c "echo $SESSION_MANAGER >address"\n')
+                manager = desktop.start("xsm", errors=subprocess.DEVNULL)
+                address = desktop.home / "address"
+                wait_for("the session manager", lambda: address.exists() and address.read_text())
+                desktop.environment["SESSION_MANAGER"] = address.read_text().strip()
+                player = Player(desktop, PROGRAM, f"{SMALL}Son=0\n")
+                player.enter("17", "19")
+                player.open_about()
+                if is_orderly:
+                    self.shut_down(desktop, player)
+                else:
+                    manager.kill()
+                self.assertEqual(player.process.wait(PATIENCE), 0)
+                self.assertEqual(player.stored(), {"Niveau": "0", "Col": "17", "Lig": "19", "Son": "0"})
+
+    def shut_down(self, desktop, player):
+        window = desktop.xdotool("search", "--onlyvisible", "^xsm").strip()
+        desktop.xdotool("windowactivate", "--sync", window)
+        player.act((143, 28), "mousedown", 1, "sleep", 0.3, (143, 57), "sleep", 0.3, "mouseup", 1, window=window)
+        dialog = wait_for("its dialog", lambda: desktop.xdotool("search", "--onlyvisible", "^Shutdown$").strip())
+        player.act((170, -2), "click", 1, "type", "name", window=dialog)
+        player.act((48, 117), "click", 1, window=dialog)
 
     def test_displays_gone(self):
-        for how, reach in itertools.product(("the display dies", "its client is killed"), REACH):
-            if reach == reach_end_panel:
-                continue
-            with self.subTest(how=how, reach=reach), self.player(f"{SMALL}Son=1\n") as player:
+        for is_display, state in itertools.product((True, False), ("idle", "removal", "sound", "About")):
+            with self.subTest(is_display=is_display, state=state), self.player(f"{SMALL}Son=1\n") as player:
                 board = player.board()
-                score = press_largest_group(player, board)
-                wait_for("the move", lambda: player.board() != board and "?" not in "".join(player.board()))
-                player.catch_up()
-                reach(player)
-                if how == "the display dies":
-                    player.desktop.display.kill()
+                largest = model.groups(board)[-1]
+                player.play(board, min(largest))
+                REACH[state](player)
+                if is_display:
+                    player.desktop.display.terminate()
                 else:
                     player.desktop.xdotool("windowkill", player.visible())
                 player.process.wait(PATIENCE)
-                self.assertGreaterEqual(int(player.stored()["0"]), score)
+                self.assertGreaterEqual(int(player.stored()["0"]), model.points(len(largest)))
 
 
 if __name__ == "__main__":

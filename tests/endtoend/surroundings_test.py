@@ -19,24 +19,29 @@ SETTINGS = "Col=25\nLig=20\nNiveau=4\n"
 
 
 class Surroundings(Case):
+    score = 0
+
     def play(self, player, board):
         """Plays the largest group. Returns the board after it and how many seconds that took."""
         began = time.monotonic()
-        board = player.play(board, min(model.groups(board)[-1]))
-        return board, round(time.monotonic() - began, 2)
+        largest = model.groups(board)[-1]
+        self.score += model.points(len(largest))
+        return player.play(board, min(largest)), round(time.monotonic() - began, 2)
 
     def leave(self, player):
         player.process.terminate()
         self.assertEqual(player.process.wait(PATIENCE), 0)
-        self.assertIn("4", player.stored(), "the best score")
+        self.assertEqual(player.stored()["4"], str(self.score))
+        self.score = 0
 
     @contextlib.contextmanager
     def stalling_device(self, desktop):
         """A device that takes the beginning of a sound and no more."""
         os.mkfifo(desktop.loudspeaker)
-        with open(desktop.start("head", "-c", "20000", desktop.loudspeaker, output=subprocess.PIPE).stdout.fileno(),
-                  closefd=False), open(desktop.loudspeaker, "r+b", buffering=0):
+        with open(desktop.loudspeaker, "r+b", buffering=0):
+            listener = desktop.start("head", "-c", "20000", desktop.loudspeaker, output=subprocess.DEVNULL)
             yield
+            self.assertEqual(listener.poll(), 0, "it has heard something")
 
     @contextlib.contextmanager
     def silent_server(self, desktop):
@@ -45,12 +50,13 @@ class Surroundings(Case):
             server.bind(str(desktop.home / "sound"))
             server.listen()
             yield
+            server.settimeout(0)
+            server.accept()[0].close()
 
     def test_sounds(self):
-        nowhere = lambda desktop: contextlib.nullcontext()
         for name, session, device in (
-            ("no device", {"SDL_AUDIODRIVER": "alsa"}, nowhere),
-            ("no such driver", {"SDL_AUDIODRIVER": "none"}, nowhere),
+            ("no device", {"SDL_AUDIODRIVER": "alsa", "ALSA_CONFIG_PATH": "/dev/null"}, contextlib.nullcontext),
+            ("no such driver", {"SDL_AUDIODRIVER": "none"}, contextlib.nullcontext),
             ("stalling device", {}, self.stalling_device),
             ("silent server", {"SDL_AUDIODRIVER": "pulseaudio", "PULSE_SERVER": "unix:sound"}, self.silent_server),
         ):
@@ -62,6 +68,16 @@ class Surroundings(Case):
                     took.append(seconds)
                 self.leave(player)
                 print(f"{name}: seconds of the moves: {took}")
+
+    def test_closed_stream(self):
+        with self.desktop() as desktop:
+            # Without the variable, the toolkit complains.
+            script = desktop.home / PROGRAM.name
+            script.write_text(f"#!/bin/sh\nunset XDG_RUNTIME_DIR\nexec {PROGRAM} 2>&-\n")
+            script.chmod(0o755)
+            player = Player(desktop, script, SETTINGS + "Son=1\n")
+            self.play(player, player.board())
+            self.leave(player)
 
     def test_sound_files(self):
         good = (pathlib.Path(__file__).resolve().parents[2] / "assets/sounds/son50.WAV").read_bytes()

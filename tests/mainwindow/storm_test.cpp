@@ -10,7 +10,7 @@
 #include <QTimer>
 
 #include "mainwindow/boardcursor.h"
-#include "platform/signals.h"
+#include "platform/process.h"
 #include "rules/outcome.h"
 #include "tests/mainwindow/world.h"
 #include "tests/rules/plain.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/signals.h"
+#include "platform/process.h"
 
 #include <array>
 #include <cerrno>
@@ -10,6 +10,8 @@
 #include <QSocketNotifier>
 #include <fcntl.h>
 #include <unistd.h>
+
+#include "platform/shared_library.h"
 
 namespace platform {
 namespace {
@@ -32,7 +34,29 @@ void handle(int signal, void (*handler)(int)) {
     sigaction(signal, &handling, nullptr);
 }
 
+// The library of session management, which the toolkit loads, would end the program on the spot.
+void outliveSessionManager() {
+    void* (*setErrorHandler)(void (*)(void*)) = nullptr;
+    void* library = dlopen("libICE.so.6", RTLD_NOW | RTLD_NOLOAD);
+    if (library != nullptr && resolve(library, "IceSetIOErrorHandler", setErrorHandler)) {
+        setErrorHandler([](void*) { wakeUp(0); });
+    }
+}
+
 }  // namespace
+
+void prepareProcess() {
+    // Not by ignoring them, which the programs that are started from here would inherit.
+    for (const int signal : {SIGPIPE, SIGXFSZ}) {
+        handle(signal, [](int) {});
+    }
+    // The lowest descriptor that is free is taken: the first one above them ends it.
+    int descriptor = 0;
+    while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
+        descriptor = open("/dev/null", O_RDWR);
+    }
+    close(descriptor);
+}
 
 void onQuitSignal(QObject& owner, std::function<void()> action) {
     if (wake[0] < 0 && pipe2(wake.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
@@ -48,13 +72,7 @@ void onQuitSignal(QObject& owner, std::function<void()> action) {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         handle(signal, &wakeUp);
     }
-}
-
-void surviveFailedWrites() {
-    // Not by ignoring them, which the programs that are started from here would inherit.
-    for (const int signal : {SIGPIPE, SIGXFSZ}) {
-        handle(signal, [](int) {});
-    }
+    outliveSessionManager();
 }
 
 }  // namespace platform

@@ -57,7 +57,8 @@ struct Bot : mainwindow::World {
 
     void tell(const char* unit, int number) {
         QCoreApplication::processEvents();
-        const auto objects = window->findChildren<QObject*>() + shown()->findChildren<QObject*>() + qApp->children();
+        const auto objects = window->findChildren<QObject*>() + shown()->findChildren<QObject*>() + qApp->children() +
+                             QObjectList{window.get(), shown()};
         qsizetype timers = 0;
         for (QObject* object : objects) {
             timers += QAbstractEventDispatcher::instance()->registeredTimers(object).size();

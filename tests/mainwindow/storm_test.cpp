@@ -3,6 +3,7 @@
 
 #include <climits>
 #include <csignal>
+#include <map>
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -115,7 +116,9 @@ struct Storm : World {
             table->columnDescription(n), table->rowDescription(m), table->selectRow(n);
             EXPECT_TRUE(table->cellAt(n, m)->isValid()) << "a cell that stands nowhere";
         } else if (auto* cell = it->tableCellInterface()) {
-            cell->columnIndex(), cell->rowIndex(), cell->table()->indexOfChild(it);
+            const std::pair place(cell->columnIndex(), cell->rowIndex());
+            EXPECT_EQ(places.try_emplace(QAccessible::uniqueId(it), place).first->second, place) << "a cell that moved";
+            cell->table()->indexOfChild(it);
         } else if (auto* text = it->textInterface()) {
             text->text(n, m), text->characterRect(n), text->setCursorPosition(n), text->addSelection(n, m);
         }
@@ -201,6 +204,7 @@ struct Storm : World {
     std::string trail;
     int asked = 0;
     std::vector<QAccessible::Id> known;
+    std::map<QAccessible::Id, std::pair<int, int>> places;
     bool wasReset = false;
     int left = 0;
     std::int64_t score = 0;

@@ -99,6 +99,7 @@ TEST_F(SoundTest, ReadsTheFirstRegularFileOfTheName) {
     ASSERT_EQ(mkfifo((folder / "first" / "long.wav").c_str(), 0600), 0);
     EXPECT_EQ(readSoundFile(folders, "other.wav"), WavFile{otherSound}.bytes());
     EXPECT_EQ(readSoundFile(folders, "long.wav"), WavFile{ramp(1, 26460)}.bytes());
+    EXPECT_EQ(readSoundFile(folders, "missing.wav"), "");
     for (const std::size_t size : {std::size_t{1}, largestSoundFile, largestSoundFile + 1}) {
         std::ofstream(folder / "first" / "large.wav").close();
         fs::resize_file(folder / "first" / "large.wav", size);

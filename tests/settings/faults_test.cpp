@@ -99,17 +99,19 @@ TEST(Faults, OfAnyFileOperationLeaveTheOldFileOrTheNewOneAndCostNothing) {
     }
 }
 
-TEST(Faults, WhatIsNotOnTheDiskTakesNoPlace) {
-    const Folder folder;
-    folder.put("[init]\n0=120\n");
-    settings::Store store(folder.ini);
-    plan() = {
-        .folder = folder.folder.path().toStdString(), .first = 1, .lasting = true, .fault = EIO, .only = "fdatasync"};
-    playOn(store, [&](const auto& change) {
-        change();
-        EXPECT_EQ(folder.bytes(), "[init]\n0=120\n");
-    });
-    plan() = {};
+TEST(Faults, WhatIsCutShortOrNotOnTheDiskTakesNoPlace) {
+    for (const auto& [only, fault] : {std::pair{"read", cutShort}, std::pair{"fdatasync", EIO}}) {
+        const Folder folder;
+        folder.put("[init]\n0=120");
+        settings::Store store(folder.ini);
+        const std::string place = folder.folder.path().toStdString();
+        playOn(store, [&](const auto& change) {
+            plan() = {.folder = place, .first = 1, .lasting = true, .fault = fault, .only = only};
+            change();
+            plan() = {};
+            EXPECT_EQ(folder.bytes(), "[init]\n0=120") << only;
+        });
+    }
 }
 
 }  // namespace

@@ -64,6 +64,7 @@ class Kills(Case):
     def test_kills(self):
         rounds, chance = int(os.environ.get("ROUNDS", 20)), random.Random(os.environ.get("SEED", 5))
         starts = []
+        self.assertTrue(FAULTS.exists(), "else it would be left out without a word")
         with self.desktop() as desktop:
             plain = dict(desktop.environment)
             slow = {"LD_PRELOAD": str(FAULTS), "FAULTS": f"{desktop.home} 1 1 -2"}  # saves last, so that kills hit them
@@ -102,7 +103,7 @@ class Kills(Case):
                     self.assertIn(int(stored["0"]), possible)
                     self.assertLess(len(list(desktop.home.glob("*.ini*"))), 6, "files pile up")
                 best = int(stored["0"])
-            file.with_suffix(".ini.aBcDeF").touch()  # few kills leave one behind
+            file.with_suffix(".ini.aBcDeF.part").touch()  # few kills leave one behind
             player = Player(desktop, PROGRAM)
             player.act("key", "ctrl+r")
             player.process.terminate()

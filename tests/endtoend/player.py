@@ -5,7 +5,6 @@
 import contextlib
 import pathlib
 import re
-import signal
 
 import numpy as np
 from PIL import Image
@@ -22,7 +21,7 @@ BOARD = 33  # pixels from the window's left and top to the first cell, and from 
 # Places in the side panel.
 OPTIONS = tuple((12, 8 + 14 * level) for level in range(5))
 COLUMNS_BOX, ROWS_BOX, SOUND_SWITCH = (118, 27), (157, 27), (12, 80)
-NEW_GAME, QUIT_PICTURE, QUIT_CAPTION = (37, 234), (109, 234), (141, 233)
+NEW_GAME, QUIT_CAPTION = (37, 234), (141, 233)
 HELP_ICON = (89, 227)
 # Places in the About window.
 MAIL, SITE, BACK = (77, 315), (208, 314), (340, 313)
@@ -115,12 +114,6 @@ class Player:
             move = isinstance(action, tuple) and ["mousemove", left + action[0], top + action[1], *self.AFTER_POINTING]
             words += move or [action]
         self.desktop.xdotool(*words)
-
-    def act_at_once(self, *actions):
-        """Hands the program all actions together, so that those after a press come during its move."""
-        self.process.send_signal(signal.SIGSTOP)
-        self.act(*actions)
-        self.process.send_signal(signal.SIGCONT)
 
     def click(self, place):
         self.act(self.in_panel(place), "click", 1)

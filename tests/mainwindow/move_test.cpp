@@ -51,6 +51,8 @@ TEST(Move, CommandsDuringAMoveRunAfterItInTheirOrderAndOptionsAtOnce) {
         }
         world.command(2);  // the reset comes after the move's score, and before the new game
         world.command(0);
+        QTest::mousePress(world.control<QWidget>("Image1"), Qt::LeftButton);
+        EXPECT_EQ(world.shown(), world.window.get()) << "the About window comes after it too";
         world.select(2);
         world.control<QCheckBox>("Check1")->click();
         EXPECT_EQ(world.stored("Niveau"), "2");
@@ -62,6 +64,7 @@ TEST(Move, CommandsDuringAMoveRunAfterItInTheirOrderAndOptionsAtOnce) {
     EXPECT_EQ(world.game().Total, 6);
     EXPECT_EQ(world.game().NbCoul, 4);
     EXPECT_EQ(world.text("l1", 0), "");
+    EXPECT_NE(world.shown(), world.window.get());
 }
 
 TEST(Move, ClosingDuringAMoveEndsItAtOnceAndLosesNothing) {

@@ -198,7 +198,7 @@ struct Storm : World {
          }},
     };
 
-    QTemporaryDir folder{u"/dev/shm/storm-XXXXXX"_s};  // a disk would take most of the time
+    QTemporaryDir folder;
     std::mt19937 random;
     int depth = 0;
     std::string trail;

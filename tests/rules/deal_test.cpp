@@ -38,20 +38,6 @@ TEST(Deal, StartsAnewAfterAGame) {
     }
 }
 
-TEST(Random, NumbersAreUniformOverTheUnitInterval) {
-    Random random(7);
-    std::array<int, 16> buckets{};
-    for (int i = 0; i < 160'000; ++i) {
-        const float u = random();
-        ASSERT_GE(u, 0.0F);
-        ASSERT_LT(u, 1.0F);
-        ++buckets[static_cast<std::size_t>(u * 16)];
-    }
-    for (const int count : buckets) {
-        EXPECT_NEAR(count, 10'000, 500);  // five standard deviations
-    }
-}
-
 TEST(Random, EverySeedFromTheClockIsAnother) {
     std::set<std::uint64_t> seeds;
     std::generate_n(std::inserter(seeds, seeds.end()), 1000, seedFromClock);

@@ -2,10 +2,12 @@
 # SPDX-License-Identifier: MIT
 
 # How every target of the project is compiled: linked privately, so that nothing leaks to users of a library.
+add_library(warnings INTERFACE)
 add_library(build_options INTERFACE)
-target_include_directories(build_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_link_libraries(build_options INTERFACE warnings)
+target_include_directories(warnings INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(
-  build_options
+  warnings
   INTERFACE -Wall
             -Wextra
             -Wpedantic
@@ -19,7 +21,7 @@ target_compile_options(
             -Wcast-align
             -Wimplicit-fallthrough
             -Werror)
-target_compile_definitions(build_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
+target_compile_definitions(warnings INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
 
 # A release tells nothing of the folder it was built in, and leaves little to whoever finds a fault in it: the stack, the
 # linkage table and the standard functions are guarded, and its addresses change from run to run.

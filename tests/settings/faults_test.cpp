@@ -100,16 +100,16 @@ TEST(Faults, OfAnyFileOperationLeaveTheOldFileOrTheNewOneAndCostNothing) {
 }
 
 TEST(Faults, WhatIsCutShortOrNotOnTheDiskTakesNoPlace) {
-    for (const auto& [only, fault] : {std::pair{"read", cutShort}, std::pair{"fdatasync", EIO}}) {
+    for (const auto& struck : {std::pair{"read", cutShort}, std::pair{"fdatasync", EIO}}) {
         const Folder folder;
         folder.put("[init]\n0=120");
         settings::Store store(folder.ini);
         const std::string place = folder.folder.path().toStdString();
         playOn(store, [&](const auto& change) {
-            plan() = {.folder = place, .first = 1, .lasting = true, .fault = fault, .only = only};
+            plan() = {.folder = place, .first = 1, .lasting = true, .fault = struck.second, .only = struck.first};
             change();
             plan() = {};
-            EXPECT_EQ(folder.bytes(), "[init]\n0=120") << only;
+            EXPECT_EQ(folder.bytes(), "[init]\n0=120") << struck.first;
         });
     }
 }

@@ -69,15 +69,16 @@ class Surroundings(Case):
                 self.leave(player)
                 print(f"{name}: seconds of the moves: {took}")
 
-    def test_closed_stream(self):
-        with self.desktop() as desktop:
-            # Without the variable, the toolkit complains.
-            script = desktop.home / PROGRAM.name
-            script.write_text(f"#!/bin/sh\nunset XDG_RUNTIME_DIR\nexec {PROGRAM} 2>&-\n")
-            script.chmod(0o755)
-            player = Player(desktop, script, SETTINGS + "Son=1\n")
-            self.play(player, player.board())
-            self.leave(player)
+    def test_closed_streams(self):
+        for stream in ("2>&-", "2> >(true)"):  # closed from the start, and a pipe whose reader leaves
+            with self.subTest(stream=stream), self.desktop() as desktop:
+                # Without the variable, the toolkit complains, as the disk driver does at its first sound.
+                script = desktop.home / PROGRAM.name
+                script.write_text(f"#!/bin/bash\nunset XDG_RUNTIME_DIR\nexec {PROGRAM} {stream}\n")
+                script.chmod(0o755)
+                player = Player(desktop, script, SETTINGS + "Son=1\n")
+                self.play(player, player.board())
+                self.leave(player)
 
     def test_sound_files(self):
         good = (pathlib.Path(__file__).resolve().parents[2] / "assets/sounds/son50.WAV").read_bytes()

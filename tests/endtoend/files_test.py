@@ -86,9 +86,13 @@ class Files(unittest.TestCase):
                 with self.subTest(size=size, result=result), self.home(SETTINGS) as ini:
                     self.run_once(ini, "prlimit", f"--fsize={size}:unlimited", meanwhile=meanwhile)
                     self.assertEqual(ini.read_bytes(), result)
+        # As root without a user namespace, which cannot be had everywhere.
+        unshare = ["unshare", "--mount", *(["--map-root-user"] if os.geteuid() else [])]
+        if subprocess.run([*unshare, "true"], stderr=subprocess.DEVNULL).returncode:
+            self.skipTest("This system lets nobody mount a small disk.")
         for freed, result in ((False, SETTINGS), (True, CORRECTED)):
             with self.subTest(freed=freed), self.home() as mount, subprocess.Popen(
-                    ["unshare", "--map-root-user", "--mount", "sh", "-c",
+                    [*unshare, "sh", "-c",
                      'mount -t tmpfs -o size=16k none "$0" && echo ready && exec cat', mount.parent],
                     stdin=subprocess.PIPE, stdout=subprocess.PIPE) as keeper:
                 self.assertEqual(keeper.stdout.readline(), b"ready\n")

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-"""Plays many games, or lets an animation run for long, and watches what the program holds: nothing may grow.
+"""Plays many games, or lets an animation run for long, and measures what the program holds: nothing may grow.
 
 ROUNDS in the environment says how often it is looked at.
 """
@@ -10,9 +10,11 @@ import os
 import pathlib
 import re
 import subprocess
+import sys
 
 from Xlib.display import Display
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests" / "endtoend"))
 from case import PROGRAM, Case, main
 from desktop import wait_for
 

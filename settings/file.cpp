@@ -63,12 +63,16 @@ FileContent readFile(const QString& path) {
         return {errno == ENOENT ? FileContent::State::missing : FileContent::State::unavailable, {}};
     }
     // Opening is not free of effects on what is no regular file: a FIFO would let its writer go on.
-    if (!S_ISREG(status.st_mode) || status.st_size > maxFileSize) {
+    if (!S_ISREG(status.st_mode)) {
         return {};
     }
     QFile file;
     const int descriptor = open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)) {
+        return {};
+    }
+    // Another copy may have put its file here meanwhile: the size is that of the one that is open.
+    if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > maxFileSize) {
         return {};
     }
     QByteArray bytes = file.read(status.st_size);

@@ -75,8 +75,8 @@ FileContent readFile(const QString& path) {
     if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > maxFileSize) {
         return {};
     }
-    QByteArray bytes = file.read(status.st_size);
-    // A read error after the first bytes shows only as a short read.
+    QByteArray bytes = file.read(status.st_size + 1);
+    // A read error after the first bytes shows only as a short read, somebody who writes in place as a long one.
     if (bytes.size() != status.st_size) {
         return {};
     }
@@ -116,13 +116,15 @@ bool lock(QFile& file, std::chrono::nanoseconds& patience) {
     if (!file.open(QIODevice::ReadWrite)) {
         return false;
     }
+    constexpr std::chrono::nanoseconds longestTry = std::chrono::milliseconds(10);
     while (flock(file.handle(), LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK || patience <= std::chrono::nanoseconds::zero()) {
             return false;
         }
         const auto begin = Clock::now();
         std::this_thread::sleep_for(std::min<std::chrono::nanoseconds>(patience, std::chrono::milliseconds(1)));
-        patience -= Clock::now() - begin;
+        // What a stall of this program adds is no waiting for the other one.
+        patience -= std::min<std::chrono::nanoseconds>(longestTry, Clock::now() - begin);
     }
     return true;
 }

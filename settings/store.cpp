@@ -3,6 +3,8 @@
 
 #include "settings/store.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -38,7 +40,8 @@ void makeFolder(const QString& folder) {
 
 }  // namespace
 
-Store::Store(QString iniPath) : path(std::move(iniPath)) {}
+Store::Store(QString iniPath, std::chrono::nanoseconds longestWait)
+    : path(std::move(iniPath)), patience(longestWait) {}
 
 QString Store::read(const QString& section, const QString& key, const QString& fallback) const {
     const Stored now = stored();
@@ -75,6 +78,8 @@ void Store::reset(const QString& section, const QString& key) {
 }
 
 void Store::flush() {
+    // Whatever was waited for before: without the lock, this copy and another one may undo each other's save.
+    patience = std::max<std::chrono::nanoseconds>(patience, std::chrono::milliseconds(200));
     save(Locking::attempted);
 }
 

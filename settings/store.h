@@ -19,11 +19,12 @@ namespace settings {
 /// Every change is saved at once, together with all that could not be saved before; `read` shows it in any
 /// case. Nothing is ever written over a file that cannot be read. A file that is no settings file is copied
 /// to `<path>.bad` before the first save; until then, the values come from `<path>.bak`, which holds what was
-/// last saved. No call reports a failure, and all of them together wait at most a second for other copies.
+/// last saved. No call reports a failure. All of them together wait at most `longestWait` for other copies, and
+/// closing a fifth of a second more.
 class Store {
   public:
     /// A store in this file; in memory only if the path is empty. Nothing is read or created yet.
-    explicit Store(QString iniPath);
+    explicit Store(QString iniPath, std::chrono::nanoseconds longestWait = std::chrono::seconds(1));
 
     /// The text of the key, or the fallback if it is absent or the file cannot be read.
     QString read(const QString& section, const QString& key, const QString& fallback) const;
@@ -67,7 +68,7 @@ class Store {
 
     QString path;
     std::map<Name, Change> unsaved;
-    std::chrono::nanoseconds patience = std::chrono::seconds(1);
+    std::chrono::nanoseconds patience;
 };
 
 /// Where the settings of the program with this executable lie: `<its base name>.ini` in `$XDG_CONFIG_HOME`

@@ -56,7 +56,7 @@ struct Bot : mainwindow::World {
     }
 
     void tell(const char* unit, int number) {
-        QCoreApplication::processEvents();
+        QGuiApplication::sync();
         const auto objects = window->findChildren<QObject*>() + shown()->findChildren<QObject*>() + qApp->children() +
                              QObjectList{window.get(), shown()};
         qsizetype timers = 0;

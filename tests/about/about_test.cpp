@@ -95,9 +95,9 @@ TEST(About, BallsFollowTheirRuleRestWhileTheWindowIsHiddenAndGoOnAfterwards) {
     const auto place = [&] { return QPoint(platform::toPixels(balls[0].PosX), platform::toPixels(balls[0].PosY)); };
     animation::pass(balls, field.width(), field.height());
     EXPECT_EQ(ball->pos(), place()) << "not on its way when the window shows";
-    const auto moves = [&] {
+    const auto moves = [&](int milliseconds = 5000) {
         const QPoint before = ball->pos();
-        return QTest::qWaitFor([&] { return ball->pos() != before; }, 300);
+        return QTest::qWaitFor([&] { return ball->pos() != before; }, milliseconds);
     };
     EXPECT_TRUE(moves() && moves() && moves());
     for (int passes = 0; passes < 100 && ball->pos() != place(); ++passes) {
@@ -105,7 +105,7 @@ TEST(About, BallsFollowTheirRuleRestWhileTheWindowIsHiddenAndGoOnAfterwards) {
     }
     EXPECT_EQ(ball->pos(), place());
     about.window.hide();
-    EXPECT_FALSE(moves());
+    EXPECT_FALSE(moves(300));
     about.window.show();
     EXPECT_TRUE(moves());
 }

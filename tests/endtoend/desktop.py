@@ -8,16 +8,22 @@ import subprocess
 import tempfile
 import time
 
+import numpy as np
 from PIL import ImageGrab
 
 PATIENCE = 20  # seconds until something that must come counts as missing
+# No binding of the pointer: for those, the window manager would hold back each click, and keys would overtake it.
+WINDOW_MANAGER = """<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/>
+<keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard></openbox_config>"""
 
 
-def wait_for(what, condition, patience=PATIENCE):
-    deadline = time.monotonic() + patience
+def wait_for(what, condition):
+    deadline = time.monotonic() + PATIENCE
+    is_late = False
     while not (value := condition()):
-        if time.monotonic() > deadline:
-            raise AssertionError(f"{what}: nothing of it within {patience} s")
+        if is_late:
+            raise AssertionError(f"{what}: nothing of it within {PATIENCE} s")
+        is_late = time.monotonic() > deadline
         time.sleep(0.01)
     return value
 
@@ -49,13 +55,15 @@ class Desktop:
         opener.chmod(0o755)
         self.managed = managed
         self._stack = stack
-        # The display would start anew, and drop who is just coming, each time that its last client leaves.
-        self.display = self.start("Xvfb", "-noreset", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24",
+        # The display would start anew, and drop who is just coming, each time that its last client leaves; and repeat
+        # the keys that a busy machine holds down for long.
+        self.display = self.start("Xvfb", "-noreset", "-r", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24",
                                   output=subprocess.PIPE)
         self.environment["DISPLAY"] = ":" + self.display.stdout.readline().decode().strip()
         if managed:
             # Before the window manager is ready, windows may get lost between it and the display.
-            self.start("openbox", "--startup", "touch ready")
+            (home / "openbox.xml").write_text(WINDOW_MANAGER)
+            self.start("openbox", "--config-file", home / "openbox.xml", "--startup", "touch ready")
             wait_for("the window manager", (home / "ready").exists)
 
     def start(self, *command, input=None, output=None, errors=None):
@@ -75,3 +83,14 @@ class Desktop:
 
     def screenshot(self, area=None):
         return ImageGrab.grab(area, xdisplay=self.environment["DISPLAY"])
+
+    def still(self, area=None):
+        """The pixels as they are most of the time: what lies under bouncing balls."""
+        def median():
+            return np.median([np.array(self.screenshot(area)) for _ in range(9) if not time.sleep(0.08)], 0)
+        looks = [median()]
+        wait_for("the same look again", lambda: looks.append(median()) or (looks[-1] == looks[-2]).all())
+        return looks[-1]
+
+    def wait_for_focus(self):
+        wait_for("the keyboard's focus", lambda: "Zampotine" in self.xdotool("getwindowfocus", "getwindowname"))

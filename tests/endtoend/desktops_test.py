@@ -4,7 +4,6 @@
 
 """Shows the real program at home on desktops of many kinds."""
 import re
-import time
 
 import numpy as np
 
@@ -56,11 +55,9 @@ class Desktops(Case):
                 wait_for("a tool tip beyond the window", lambda: desktop.screenshot().getbbox()[2] > left + width)
                 main_look = looks.setdefault("main", screen_without_balls())
                 # Once in a while, the blinking cursor too is as it was.
-                wait_for("the same main window", lambda: (screen_without_balls() == main_look).all(), patience=5)
-                about = player.open_about()
-                # What shows most of the time is what lies under the bouncing balls.
-                moments = [player.look((0, 0), (413, 344), about) for _ in range(9) if not time.sleep(0.08)]
-                still = np.median(moments, 0)
+                wait_for("the same main window", lambda: (screen_without_balls() == main_look).all())
+                left, top, width, height = player.geometry(player.open_about())
+                still = desktop.still((left, top, left + width, top + height))
                 self.assertTrue((still == looks.setdefault("About", still)).all(), "the same About window")
 
     def test_two_screens(self):
@@ -73,7 +70,7 @@ class Desktops(Case):
                 ((1000, 280), (1400 + 293, 300 + 228), (1400 + 131, 300 + 100)),
                 ((-900, 20), (493, 328), (331, 200)),
             ):
-                self.assertEqual(player.drag(BACKGROUND, 1, [across]), [across])
+                player.drag(BACKGROUND, 1, across)
                 about = player.open_about()
                 self.assertEqual(player.geometry(about)[:2], about_place)
                 player.leave_about(about, "key", "Escape")
@@ -85,8 +82,8 @@ class Desktops(Case):
         balls = model.groups(board)[-1]
         player.act(centre(min(balls)), "click", 1, BACKGROUND)
         player.expect_board(model.without(board, balls), f"{min(balls)} on\n{model.text(board)}")
-        for button, moves in (1, [(40, -33), (-60, 50)]), (3, [(20, 10)]):
-            self.assertEqual(player.drag(BACKGROUND, button, moves), moves)
+        player.drag(BACKGROUND, 1, (40, -33), (-60, 50))
+        player.drag(BACKGROUND, 3, (20, 10))
         player.leave_about(player.open_about(), "key", "Escape")
         player.enter("12", "15")
         player.click(NEW_GAME)

@@ -151,9 +151,11 @@ class Kills(Case):
                 self.assertEqual(player.stored(), stored)
 
     def shut_down(self, desktop, player):
-        window = desktop.xdotool("search", "--onlyvisible", "^xsm").strip()
+        window = wait_for("its window", lambda: desktop.xdotool("search", "--onlyvisible", "^xsm").strip())
         desktop.xdotool("windowactivate", "--sync", window)
-        player.act((143, 28), "mousedown", 1, "sleep", 0.3, (143, 57), "sleep", 0.3, "mouseup", 1, window=window)
+        player.act((143, 28), "mousedown", 1, window=window)
+        wait_for("its menu", lambda: player.look((100, 80), (230, 94), window).any())
+        player.act((143, 57), "mouseup", 1, window=window)
         dialog = wait_for("its dialog", lambda: desktop.xdotool("search", "--onlyvisible", "^Shutdown$").strip())
         player.act((170, -2), "click", 1, "type", "name", window=dialog)
         player.act((48, 117), "click", 1, window=dialog)

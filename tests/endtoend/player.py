@@ -2,7 +2,6 @@
 # SPDX-License-Identifier: MIT
 
 """A player at the running program: sees its window as pixels and works it with pointer and keys."""
-import contextlib
 import pathlib
 import re
 
@@ -55,7 +54,7 @@ class Player:
         self.window = wait_for("the window", self.visible)
         wait_for("a dealt board", lambda: set("".join(self.board())) <= set(COLOURS))
         if desktop.managed:
-            wait_for("the keyboard's focus", lambda: "Zampotine" in desktop.xdotool("getwindowfocus", "getwindowname"))
+            desktop.wait_for_focus()
 
     def stored(self):
         return dict(re.findall("(.+)=(.*)", self.file.read_text()))
@@ -132,19 +131,16 @@ class Player:
         self.act(*actions, window=about)
         self.expect_window("the main window", lambda window: window == self.window)
 
-    def drag(self, place, button, moves):
-        """Drags from a place in the window by these moves, one after the other, and tells how far the window came by
-        each of them. The pointer ends far from where it let go."""
+    def drag(self, place, button, *moves, follows=True):
+        """Drags from a place in the window by these moves, one after the other, each of which it follows. The pointer
+        ends far from where it let go."""
         left, top, _, _ = self.geometry()
         self.act(place, "mousedown", button)
-        came = []
         for x, y in moves:
             self.desktop.xdotool("mousemove", left + place[0] + x, top + place[1] + y)
-            with contextlib.suppress(AssertionError):
-                wait_for("the window", lambda: self.geometry()[:2] == (left + x, top + y), patience=0.5)
-            came.append((self.geometry()[0] - left, self.geometry()[1] - top))
+            wait_for(f"the window, dragged by {x, y} at {place} with button {button}",
+                     lambda: not follows or self.geometry()[:2] == (left + x, top + y))
         self.desktop.xdotool("mouseup", button, "mousemove", 5, 5)
-        return came
 
     def enter(self, columns, rows):
         for box, typed in ((COLUMNS_BOX, columns), (ROWS_BOX, rows)):

@@ -8,7 +8,7 @@ import os
 import re
 import subprocess
 
-from desktop import wait_for
+from desktop import PATIENCE, wait_for
 
 COLOURS = {"rouge": "r", "bleue": "b", "verte": "v", "jaune": "j", "magenta": "p", "grise": "g", None: "."}
 CELL = re.compile(r"(?:boule (\w+)|case vide), ligne (\d+), colonne (\d+)(?:, groupe de (\d+))?")
@@ -25,6 +25,7 @@ class ScreenReader:
                     "variant:boolean:true")
         # It connects to the bus when it is imported.
         self.atspi = importlib.import_module("pyatspi")
+        self.atspi.setTimeout(1000 * PATIENCE, 1000 * PATIENCE)
         self.glib = importlib.import_module("gi.repository.GLib")
         self.heard = []  # announcements, and cells that got the focus or changed
         self.atspi.Registry.registerEventListener(self._hear, "object:state-changed:showing",

@@ -8,6 +8,7 @@ from Xlib.display import Display
 
 display = Display()
 display.screen().root.change_attributes(event_mask=X.SubstructureRedirectMask)
+display.sync()
 print("ready", flush=True)
 while True:
     event = display.next_event()

@@ -42,8 +42,8 @@ bool replaceCopy(const QString& path, const QByteArray& bytes);
 void removeLeftovers(const QString& path);
 
 /// Opens the file, creating it if needed, and locks it against other programs until it is closed. Waits while
-/// another one holds it, at most `patience`, from which the time spent is taken off, stalls excepted. False if it is not
-/// locked.
+/// another one holds it, at most `patience`, from which the time spent is taken off, stalls excepted. False if it is
+/// not locked.
 bool lock(QFile& file, std::chrono::nanoseconds& patience);
 
 }  // namespace settings

@@ -40,8 +40,7 @@ void makeFolder(const QString& folder) {
 
 }  // namespace
 
-Store::Store(QString iniPath, std::chrono::nanoseconds longestWait)
-    : path(std::move(iniPath)), patience(longestWait) {}
+Store::Store(QString iniPath, std::chrono::nanoseconds longestWait) : path(std::move(iniPath)), patience(longestWait) {}
 
 QString Store::read(const QString& section, const QString& key, const QString& fallback) const {
     const Stored now = stored();

@@ -4,6 +4,7 @@
 """A screen of its own with a window manager, a loudspeaker and a player's home folder that is thrown away."""
 import os
 import pathlib
+import re
 import subprocess
 import tempfile
 import time
@@ -84,13 +85,24 @@ class Desktop:
     def screenshot(self, area=None):
         return ImageGrab.grab(area, xdisplay=self.environment["DISPLAY"])
 
-    def still(self, area=None):
-        """The pixels as they are most of the time: what lies under bouncing balls."""
-        def median():
-            return np.median([np.array(self.screenshot(area)) for _ in range(9) if not time.sleep(0.08)], 0)
-        looks = [median()]
-        wait_for("the same look again", lambda: looks.append(median()) or (looks[-1] == looks[-2]).all())
-        return looks[-1]
+    def geometry(self, window):
+        """Left, top, width and height."""
+        said = self.xdotool("getwindowgeometry", "--shell", window)
+        return tuple(map(int, re.findall(r"(?:X|Y|WIDTH|HEIGHT)=(-?\d+)", said)))
+
+    def still(self, window):
+        """The window's pixels as they are in most of its looks: what lies under bouncing balls."""
+        left, top, width, height = self.geometry(window)
+        looks = {}  # each counts once, however long the program stands still
+
+        def enough():
+            look = np.array(self.screenshot((left, top, left + width, top + height)))
+            looks[look.tobytes()] = look
+            time.sleep(0.05)  # a ball must not be at one place in half of them
+            return len(looks) > 16
+
+        wait_for("bouncing balls", enough)
+        return np.median(list(looks.values()), 0)
 
     def wait_for_focus(self):
         wait_for("the keyboard's focus", lambda: "Zampotine" in self.xdotool("getwindowfocus", "getwindowname"))

@@ -51,13 +51,12 @@ class Desktops(Case):
                     return screen
 
                 player.act(player.in_panel(COLUMNS_BOX), "click", 1, "key", "ctrl+a")
-                player.act(player.in_panel((70, 125)), "sleep", 0.1, player.in_panel((72, 125)))
+                player.act(player.in_panel((72, 125)))
                 wait_for("a tool tip beyond the window", lambda: desktop.screenshot().getbbox()[2] > left + width)
                 main_look = looks.setdefault("main", screen_without_balls())
                 # Once in a while, the blinking cursor too is as it was.
                 wait_for("the same main window", lambda: (screen_without_balls() == main_look).all())
-                left, top, width, height = player.geometry(player.open_about())
-                still = desktop.still((left, top, left + width, top + height))
+                still = desktop.still(player.open_about())
                 self.assertTrue((still == looks.setdefault("About", still)).all(), "the same About window")
 
     def test_two_screens(self):

@@ -65,8 +65,7 @@ class Player:
         return windows[0] if len(windows) == 1 else None
 
     def geometry(self, window=None):
-        said = self.desktop.xdotool("getwindowgeometry", "--shell", window or self.window)
-        return tuple(map(int, re.findall(r"(?:X|Y|WIDTH|HEIGHT)=(-?\d+)", said)))
+        return self.desktop.geometry(window or self.window)
 
     def look(self, start, end, window=None):
         """The pixels by row and column between two places in the window."""
@@ -137,9 +136,12 @@ class Player:
         left, top, _, _ = self.geometry()
         self.act(place, "mousedown", button)
         for x, y in moves:
-            self.desktop.xdotool("mousemove", left + place[0] + x, top + place[1] + y)
-            wait_for(f"the window, dragged by {x, y} at {place} with button {button}",
-                     lambda: not follows or self.geometry()[:2] == (left + x, top + y))
+            def followed():
+                # No hand is still: a desktop that takes the window up late waits for the pointer's next step.
+                self.desktop.xdotool("mousemove_relative", 1, 0,
+                                     "mousemove", left + place[0] + x, top + place[1] + y)
+                return not follows or self.geometry()[:2] == (left + x, top + y)
+            wait_for(f"the window, dragged by {x, y} at {place} with button {button}", followed)
         self.desktop.xdotool("mouseup", button, "mousemove", 5, 5)
 
     def enter(self, columns, rows):

@@ -75,8 +75,8 @@ FileContent readFile(const QString& path) {
     if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > maxFileSize) {
         return {};
     }
-    QByteArray bytes = file.read(status.st_size + 1);
-    // A read error after the first bytes shows only as a short read, somebody who writes in place as a long one.
+    QByteArray bytes = file.read(status.st_size);
+    // A read error after the first bytes shows only as a short read.
     if (bytes.size() != status.st_size) {
         return {};
     }

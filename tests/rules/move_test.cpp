@@ -16,38 +16,6 @@ Game gameOn(const Board& board) {
     return game;
 }
 
-TEST(Move, BoardBeforePressBoardAfterPoints) {
-    struct Row {
-        const char *fault, *before;
-        int press;
-        const char* after;
-        int score;
-    };
-    const std::vector<Row> table{
-        {"a pair is not removed", "rr bv", 0, ".. bv", 4},
-        {"diagonal balls count as neighbours", "rbr brb rbr", 4, "rbr brb rbr", 0},
-        {"an empty cell plays", ".. rr", 0, ".. rr", 0},
-        {"an empty cell next to empty ones plays", "... rb.", 6, "... rb.", 0},
-        {"bottom and top of neighbouring columns connect", "br rb", 1, "br rb", 0},
-        {"another red group goes with it diagonally", "rrb bbr bbr", 0, "..b bbr bbr", 4},
-        {"a ball of the group stays", "rbb rbb rrr", 8, "... bb. bb.", 20},
-        {"the balls above stay up", "bv rr jb", 1, ".. bv jb", 4},
-        {"balls fall no deeper than the first hole", "v . r j j . b", 3, ". . . . v r b", 4},
-        {"a column falls with another one's balls", "..b r.. rv.", 1, "... ... vb.", 4},
-        {"two empty columns close up as one", "rvvb rvvb", 2, "rb.. rb..", 13},
-        {"an empty first column stays", "vrb vrb", 0, "rb. rb.", 4},
-        {"an empty last column takes the balls beside it", "rbv rbv", 5, "rb. rb.", 4},
-    };
-    for (const Row& row : table) {
-        Game game = gameOn(picture(row.before));
-        Recorder host(game);
-        playMove(game, row.press, host);
-        EXPECT_EQ(game.board, picture(row.after)) << row.fault;
-        EXPECT_EQ(game.score, row.score) << row.fault;
-        EXPECT_EQ(host.events.empty(), row.score == 0) << row.fault;
-    }
-}
-
 TEST(Move, EventsComeInTheOrderThePlayerSeesThem) {
     struct Row {
         const char *what, *before;

@@ -20,6 +20,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include "platform/shared_library.h"
@@ -90,12 +91,13 @@ auto call(const char* name, auto where, Function* function, Arguments... argumen
     return fault != 0 ? failure(fault) : original(name, function)(arguments...);
 }
 
-/// A read or write of `size` bytes, or of as many as the fault leaves.
-template <typename Function, typename Bytes>
-ssize_t transfer(const char* name, Function* function, int descriptor, Bytes* bytes, size_t size) {
+/// A read or write of `size` bytes, or of as many as the fault leaves; by the system call itself, for a signal handler
+/// writes, and might look its function up in the middle of another such search.
+template <typename Bytes>
+ssize_t transfer(const char* name, long number, int descriptor, Bytes* bytes, size_t size) {
     const int fault = faultOf(name, descriptor);
     const size_t done = fault == cutShort ? size / 2 : size;
-    return fault > 0 ? failure(fault) : original(name, function)(descriptor, bytes, done);
+    return fault > 0 ? failure(fault) : syscall(number, descriptor, bytes, done);
 }
 
 /// Without the disk, for which thousands of saves would wait: no test cuts the power.
@@ -121,10 +123,10 @@ int open(const char* path, int flags, ...) {
 int open64(const char* path, int flags, ...) __attribute__((alias("open")));
 
 ssize_t read(int descriptor, void* bytes, size_t size) {
-    return faults::transfer("read", &read, descriptor, bytes, size);
+    return faults::transfer("read", SYS_read, descriptor, bytes, size);
 }
 ssize_t write(int descriptor, const void* bytes, size_t size) {
-    return faults::transfer("write", &write, descriptor, bytes, size);
+    return faults::transfer("write", SYS_write, descriptor, bytes, size);
 }
 int fsync(int descriptor) {
     return faults::sync("fsync", descriptor);

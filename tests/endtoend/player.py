@@ -42,7 +42,7 @@ def centre(cell):
 
 
 class Player:
-    AFTER_POINTING = ()  # words of xdotool
+    AFTER_POINTING = BEFORE_DRAGGING = ()  # words of xdotool
 
     def __init__(self, desktop, program, settings=None):
         """Starts the program, over a settings file with these lines if any are given."""
@@ -61,7 +61,7 @@ class Player:
 
     def visible(self):
         """The program's window that shows; nothing if there is none, or more than one."""
-        windows = self.desktop.xdotool("search", "--onlyvisible", "^Zampotine$").split()
+        windows = self.desktop.windows()
         return windows[0] if len(windows) == 1 else None
 
     def geometry(self, window=None):
@@ -137,9 +137,7 @@ class Player:
         self.act(place, "mousedown", button)
         for x, y in moves:
             def followed():
-                # No hand is still: a desktop that takes the window up late waits for the pointer's next step.
-                self.desktop.xdotool("mousemove_relative", 1, 0,
-                                     "mousemove", left + place[0] + x, top + place[1] + y)
+                self.desktop.xdotool(*self.BEFORE_DRAGGING, "mousemove", left + place[0] + x, top + place[1] + y)
                 return not follows or self.geometry()[:2] == (left + x, top + y)
             wait_for(f"the window, dragged by {x, y} at {place} with button {button}", followed)
         self.desktop.xdotool("mouseup", button, "mousemove", 5, 5)

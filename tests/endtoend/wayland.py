@@ -16,6 +16,7 @@ LOOK = ("[shell]\npanel-position=none\nbackground-color=0xff000000\nstartup-anim
 class WaylandPlayer(Player):
     """Wayland tells no one where windows are. So they are looked for on the black screen, and known by their sizes."""
     AFTER_POINTING = ("sleep", 0.1)
+    BEFORE_DRAGGING = ("mousemove_relative", 1, 0)  # if it takes the window up late, it waits for the pointer's next step
 
     def __init__(self, desktop, program, settings):
         (desktop.home / "weston.ini").write_text(LOOK)

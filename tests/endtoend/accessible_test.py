@@ -138,7 +138,7 @@ class Accessible(Case):
         with self.desktop(session={"QT_SCALE_FACTOR": "1.1"}) as desktop:
             window = self.show_all_colours(desktop)
             desktop.xdotool("key", "--window", window, "F1")
-            about = wait_for("the About window", lambda: window not in (now := self.visible(desktop)) and now)
+            about = wait_for("the About window", lambda: window not in (now := desktop.windows()) and now)[0]
             before = desktop.still(about)
             time.sleep(4)
             self.assertTrue((desktop.still(about) == before).all(), "the balls have left traces")
@@ -148,10 +148,7 @@ class Accessible(Case):
         desktop.run(PROGRAM.with_name("draw_balls"), desktop.home)
         desktop.start(PROGRAM)
         desktop.wait_for_focus()
-        return wait_for("the window", lambda: self.visible(desktop))
-
-    def visible(self, desktop):
-        return desktop.xdotool("search", "--onlyvisible", "^Zampotine$").strip()
+        return wait_for("the window", desktop.windows)[0]
 
     def sharp_window(self, desktop, place, scale):
         """A picture of the window, if every cell shows one of the balls as they are drawn at this scale."""

@@ -90,8 +90,12 @@ class Desktop:
         said = self.xdotool("getwindowgeometry", "--shell", window)
         return tuple(map(int, re.findall(r"(?:X|Y|WIDTH|HEIGHT)=(-?\d+)", said)))
 
-    def still(self, window):
-        """The window's pixels as they are in most of its looks: what lies under bouncing balls."""
+    def windows(self):
+        """Those of the program that show."""
+        return self.xdotool("search", "--onlyvisible", "^Zampotine$").split()
+
+    def looks(self, window):
+        """The pixels of a window with bouncing balls, in many different looks."""
         left, top, width, height = self.geometry(window)
         looks = {}  # each counts once, however long the program stands still
 
@@ -102,7 +106,11 @@ class Desktop:
             return len(looks) > 16
 
         wait_for("bouncing balls", enough)
-        return np.median(list(looks.values()), 0)
+        return list(looks.values())
+
+    def still(self, window):
+        """The pixels as they are in most looks: what lies under bouncing balls."""
+        return np.median(self.looks(window), 0)
 
     def wait_for_focus(self):
         wait_for("the keyboard's focus", lambda: "Zampotine" in self.xdotool("getwindowfocus", "getwindowname"))

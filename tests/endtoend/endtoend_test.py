@@ -138,9 +138,7 @@ class EndToEnd(Case):
                 wait_for("no window", lambda: not player.visible())
                 player.desktop.xdotool(come, about)
                 player.expect_window("the About window", lambda window: window == about)
-                looks = set()  # more of them than the painting of the window may take
-                wait_for("bouncing balls", lambda: looks.add(player.look((0, 0), (413, 344), about).tobytes())
-                         or len(looks) > 5)
+                player.desktop.looks(about)
             player.act(MAIL, "click", 3, "click", 1, window=about)
             wait_for("a mail", lambda: player.desktop.opened.exists() and player.desktop.opened.read_text())
             player.act(SITE, "click", 1, window=about)

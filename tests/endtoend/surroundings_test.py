@@ -120,7 +120,7 @@ class Surroundings(Case):
                 file = desktop.home / f"{PROGRAM.stem}.ini"
                 file.write_text("[init]\nCol=1000\nLig=1000\nSon=0\n")
                 process = desktop.start(PROGRAM)
-                wait_for("the window", lambda: desktop.xdotool("search", "--onlyvisible", "^Zampotine$"))
+                wait_for("the window", desktop.windows)
                 desktop.xdotool("key", "F2", "Up", "space", "F1", "Escape", "F2")
                 process.terminate()
                 self.assertEqual(process.wait(PATIENCE), 0)

@@ -24,7 +24,7 @@ BUILD = ROOT / "build" / "bench"
 
 def build():
     steps = [
-        ["bash", ROOT / "packaging" / "install.sh", "build", "bench"],
+        ["bash", ROOT / "scripts" / "install.sh", "build", "bench"],
         ["cmake", "--preset", "release", "-B", BUILD, "-DZAMPOTINE_BENCH=ON"],
         ["cmake", "--build", BUILD],
     ]

@@ -5,12 +5,12 @@
 # Builds the Debian package: the same byte for byte in every folder, unless SOURCE_DATE_EPOCH gives it another date.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-# shellcheck source=packaging/steps.sh
-. packaging/steps.sh
+# shellcheck source=scripts/steps.sh
+. scripts/steps.sh
 
 umask 022 # the package tells the modes of its parts
-packaging/install.sh build package
-packaging/build.sh deb
+scripts/install.sh build package
+scripts/build.sh deb
 say "Packaging."
 rm -f build/deb/zampotine_*.deb
 logged deb-package cpack --preset deb || fail "The package could not be made (all of it in build/deb-package.log)."

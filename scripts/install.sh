@@ -2,11 +2,11 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Installs the Debian packages of the named purposes, as far as they are missing: packaging/install.sh build game
+# Installs the Debian packages of the named purposes, as far as they are missing: scripts/install.sh build game
 set -euo pipefail
 cd "$(dirname "$0")/.."
-# shellcheck source=packaging/steps.sh
-. packaging/steps.sh
+# shellcheck source=scripts/steps.sh
+. scripts/steps.sh
 
 declare -A packages=(
     [build]='g++ cmake ninja-build pkgconf qt6-base-dev libsdl2-dev librsvg2-dev'
@@ -17,10 +17,11 @@ declare -A packages=(
     [tests]='libgtest-dev xvfb openbox xdotool x11-utils imagemagick python3 python3-pil python3-numpy python3-xlib'
     [desktops]='weston qt6-wayland qt6-gtk-platformtheme x11-session-utils x11-xserver-utils'
     [reader]='dbus-bin dbus-daemon at-spi2-core python3-pyatspi'
-    [validators]='appstream desktop-file-utils lintian man-db reuse'
-    [asan]='clang libclang-rt-14-dev llvm'
-    [lint]='clang-format-14 clang-tidy-14 shellcheck pyflakes3'
+    [validators]='appstream desktop-file-utils lintian man-db reuse git'
+    [asan]='clang libclang-rt-dev llvm'
+    [lint]='git clang-format clang-tidy shellcheck pyflakes3'
     [art]='librsvg2-bin imagemagick icoutils sox'
+    [root]='git mmdebstrap mount'
     [bench]='libbenchmark-dev python3-xlib xvfb xdotool'
 )
 

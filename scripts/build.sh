@@ -2,11 +2,11 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Configures and builds one preset, with more options of CMake if need be: packaging/build.sh release
+# Configures and builds one preset, with more options of CMake if need be: scripts/build.sh release
 set -euo pipefail
 cd "$(dirname "$0")/.."
-# shellcheck source=packaging/steps.sh
-. packaging/steps.sh
+# shellcheck source=scripts/steps.sh
+. scripts/steps.sh
 preset=$1
 shift
 

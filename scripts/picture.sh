@@ -2,11 +2,11 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Shows the game on a virtual display and saves a picture of its window: packaging/picture.sh PROGRAM PICTURE
+# Shows the game on a virtual display and saves a picture of its window: scripts/picture.sh PROGRAM PICTURE
 set -euo pipefail
 cd "$(dirname "$0")/.."
-# shellcheck source=packaging/steps.sh
-. packaging/steps.sh
+# shellcheck source=scripts/steps.sh
+. scripts/steps.sh
 program=$1 picture=$2
 
 work=$(mktemp -d)

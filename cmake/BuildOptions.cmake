@@ -2,40 +2,60 @@
 # SPDX-License-Identifier: MIT
 
 # How every target of the project is compiled: linked privately, so that nothing leaks to users of a library.
-add_library(warnings INTERFACE)
 add_library(build_options INTERFACE)
-target_link_libraries(build_options INTERFACE warnings)
-target_include_directories(warnings INTERFACE ${PROJECT_SOURCE_DIR})
-target_compile_options(
-  warnings
-  INTERFACE -Wall
-            -Wextra
-            -Wpedantic
-            -Wshadow
-            -Wconversion
-            -Wno-sign-conversion # cell indices are never negative
-            -Wno-missing-field-initializers # what a designated initializer leaves out has its default
-            -Wold-style-cast
-            -Wnon-virtual-dtor
-            -Woverloaded-virtual
-            -Wcast-align
-            -Wimplicit-fallthrough
-            -Werror)
-target_compile_definitions(warnings INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
+target_include_directories(build_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_definitions(build_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
 
-# A release tells nothing of the folder it was built in, and leaves little to whoever finds a fault in it: the stack, the
-# linkage table and the standard functions are guarded, and its addresses change from run to run.
-include(CheckCXXCompilerFlag)
-set(hardening -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
-foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection)
-  check_cxx_compiler_flag(${flag} has${flag})
-  if(has${flag})
-    list(APPEND hardening ${flag})
+# Warnings and hardening go before the flags of whoever builds the game (CXXFLAGS, LDFLAGS): where two flags disagree,
+# the compiler takes the last.
+set(warnings
+    -Wall
+    -Wextra
+    -Wpedantic
+    -Wshadow
+    -Wconversion
+    -Wno-sign-conversion # cell indices are never negative
+    -Wno-missing-field-initializers # what a designated initializer leaves out has its default
+    -Wold-style-cast
+    -Wnon-virtual-dtor
+    -Woverloaded-virtual
+    -Wcast-align
+    -Wimplicit-fallthrough)
+set(hardening)
+
+# A release hides the folder it was built in and makes faults hard to exploit: it guards the stack, the linkage table
+# and the standard functions, and its addresses change from run to run.
+string(TOUPPER "${CMAKE_BUILD_TYPE}" build_type)
+if(build_type STREQUAL "RELEASE")
+  include(CheckCXXCompilerFlag)
+  include(CheckCXXSourceCompiles)
+  set(CMAKE_TRY_COMPILE_CONFIGURATION Release)
+  foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection)
+    check_cxx_compiler_flag(${flag} has${flag})
+    if(has${flag})
+      list(APPEND hardening ${flag})
+    endif()
+  endforeach()
+  # The compiler or the builder's flags may have chosen a level already. Without optimisation no level works.
+  unset(fortify_source_is_free CACHE) # because the flags may have changed
+  check_cxx_source_compiles(
+    "#if defined _FORTIFY_SOURCE || !defined __OPTIMIZE__
+    #error
+    #endif
+    int main() {}"
+    fortify_source_is_free)
+  if(fortify_source_is_free)
+    list(APPEND hardening -D_FORTIFY_SOURCE=2)
   endif()
-endforeach()
-target_compile_options(build_options INTERFACE "$<$<CONFIG:Release>:${hardening}>")
-# The toolkit's variables must stay in its libraries: -fPIE would let the link-time optimiser copy them to the program.
-target_link_options(build_options INTERFACE "$<$<CONFIG:Release>:-pie;-fPIC;LINKER:-z,relro,-z,now>")
+  target_compile_options(build_options INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+  string(PREPEND CMAKE_EXE_LINKER_FLAGS "-pie -Wl,-z,relro,-z,now ")
+  # The toolkit's variables must stay in its libraries: -fPIE would let the link-time optimiser copy them to the
+  # program.
+  target_link_options(build_options INTERFACE -fPIC)
+endif()
+list(JOIN warnings " " warnings)
+list(JOIN hardening " " hardening)
+string(PREPEND CMAKE_CXX_FLAGS "${warnings} ${hardening} ")
 
 if(ZAMPOTINE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

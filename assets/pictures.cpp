@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QTransform>
 
 #include "platform/vector.h"
 
@@ -55,7 +56,7 @@ QImage draw(const QString& name, QSize natural, QSize pixels) {
     }
     const platform::VectorPart part{contents(source->drawing), contents(source->style), {source->place, natural}};
     const QImage image = platform::drawVector(part, pixels);
-    return source->turned ? image.mirrored(true, true) : image;
+    return source->turned ? image.transformed(QTransform::fromScale(-1, -1)) : image;
 }
 
 }  // namespace

@@ -13,9 +13,13 @@
 namespace platform {
 namespace {
 
+struct Closer {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
 std::optional<std::string> readRegularFile(const std::filesystem::path& path) {
     const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    const std::unique_ptr<std::FILE, decltype(&std::fclose)> file(fdopen(descriptor, "rb"), &std::fclose);
+    const std::unique_ptr<std::FILE, Closer> file(fdopen(descriptor, "rb"));
     struct stat status {};
     if (!file || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
         return std::nullopt;

@@ -33,7 +33,7 @@ QString escaped(const QString& text, QLatin1StringView reserved = {}) {
         } else if (c == u'\\') {
             result += u"\\\\";
         } else if (c < u' ' || c == QChar::ByteOrderMark || c.isSurrogate() || outerBlank || reserved.contains(c)) {
-            result += u"\\u%1"_s.arg(c.unicode(), 4, 16, QLatin1Char('0'));
+            result += u"\\u%1"_s.arg(uint{c.unicode()}, 4, 16, QLatin1Char('0'));
         } else {
             result += c;
         }

@@ -46,6 +46,7 @@ struct Storm : World {
             draw(3) == 0 ? act() : QCoreApplication::processEvents();
         };
         sound.meanwhile = [this] { act(); };
+        elsewhere.show();
         start();
     }
 
@@ -182,7 +183,7 @@ struct Storm : World {
         {"sound", [this] { control<QCheckBox>("Check1")->click(); }},
         {"resize", [this] { shown()->windowHandle()->resize(1 + draw(900), 1 + draw(900)); }},
         {"move", [this] { shown()->windowHandle()->setPosition(draw(9000) - 4500, draw(9000) - 4500); }},
-        {"focus", [this] { QApplication::setActiveWindow(draw(2) == 0 ? nullptr : shown()); }},
+        {"focus", [this] { (draw(2) == 0 ? &elsewhere : shown()->windowHandle())->requestActivate(); }},
         {"hide", [this] { hideForAWhile(); }},
         {"minimise", [this] { shown()->setWindowState(shown()->windowState() ^ Qt::WindowMinimized); }},
         {"help", [this] { QTest::mousePress(control<QWidget>("Image1"), button()); }},
@@ -199,6 +200,7 @@ struct Storm : World {
     };
 
     QTemporaryDir folder;
+    QWindow elsewhere;
     std::mt19937 random;
     int depth = 0;
     std::string trail;

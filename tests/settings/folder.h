@@ -22,8 +22,9 @@ inline const QString none = u"(none)"_s;
 struct Folder {
     void put(const QByteArray& bytes, const QString& suffix = {}) const {
         QFile file(ini + suffix);
-        file.open(QIODevice::WriteOnly);
-        file.write(bytes);
+        if (file.open(QIODevice::WriteOnly)) {
+            file.write(bytes);
+        }
     }
 
     /// "(missing)" if there is no such file.

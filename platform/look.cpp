@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QProxyStyle>
+#include <QStyleHints>
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
@@ -62,6 +63,10 @@ QFont uiFont(FontSize size, QFont::Weight weight) {
 }
 
 void applyLook() {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    // Under a dark desktop, the style would draw light outlines, which do not show on this light palette.
+    QGuiApplication::styleHints()->setColorScheme(Qt::ColorScheme::Light);
+#endif
     QApplication::setStyle(new Style);
     QApplication::setPalette(steelPalette());
     QApplication::setFont(uiFont());

@@ -3,9 +3,13 @@
 
 #include "platform/sound.h"
 
+#include <atomic>
+#include <cstdlib>
 #include <exception>
 #include <thread>
 #include <utility>
+
+#include <unistd.h>
 
 #include "platform/sound_worker.h"
 
@@ -13,6 +17,16 @@ namespace platform {
 namespace {
 
 using Clock = std::chrono::steady_clock;
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): the handler at exit takes no data
+std::atomic<int> workersInUse = 0;
+
+/// A worker that hangs in its device holds locks that exit() would wait for, with glibc 2.41 for ever.
+void leaveWithoutWorkers(int exitStatus, void*) {
+    if (workersInUse > 0) {
+        _exit(exitStatus);
+    }
+}
 
 /// Hands the names to a thread of its own and waits for it, but never longer than it promised.
 class WorkerSound final : public Sound {
@@ -48,6 +62,7 @@ WorkerSound::~WorkerSound() {
     if (!hangs && mailbox->changed.wait_for(lock, timing.grace, [this] { return mailbox->stopped; })) {
         lock.unlock();
         worker.join();
+        --workersInUse;
     } else {
         worker.detach();
     }
@@ -86,6 +101,8 @@ void WorkerSound::play(const std::string& name) {
 void WorkerSound::startWorker() {
     if (!worker.joinable()) {
         worker = std::thread(serveSounds, mailbox, folders, timing.closeAfter);
+        ++workersInUse;
+        [[maybe_unused]] static const int registered = on_exit(leaveWithoutWorkers, nullptr);
     }
 }
 

@@ -45,10 +45,18 @@ void enqueue(SoundDevice device, std::span<const std::int16_t> samples) {
     sdl()->QueueAudio(device, samples.data(), static_cast<Uint32>(samples.size_bytes()));
 }
 
+// SDL 2 reports a lost device by its status, the compatibility layer over SDL 3 by an event alone.
+bool isLost(SoundDevice device) {
+    sdl()->PumpEvents();
+    const bool removed = sdl()->HasEvent(SDL_AUDIODEVICEREMOVED) == SDL_TRUE;
+    sdl()->FlushEvents(SDL_FIRSTEVENT, SDL_LASTEVENT);
+    return removed || sdl()->GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED;
+}
+
 }  // namespace
 
 SoundDevice openSoundDevice(SoundDevice device) {
-    if (device != 0 && sdl()->GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED) {
+    if (device != 0 && !isLost(device)) {
         return device;
     }
     closeSoundDevice(device);

@@ -26,7 +26,8 @@ bool load(Sdl& sdl) {
     return library != nullptr && resolve(library, "SDL_InitSubSystem", sdl.InitSubSystem) &&
            resolve(library, "SDL_QuitSubSystem", sdl.QuitSubSystem) &&
            resolve(library, "SDL_SetMainReady", sdl.SetMainReady) && resolve(library, "SDL_SetHint", sdl.SetHint) &&
-           resolve(library, "SDL_TLSCleanup", sdl.TLSCleanup) &&
+           resolve(library, "SDL_TLSCleanup", sdl.TLSCleanup) && resolve(library, "SDL_PumpEvents", sdl.PumpEvents) &&
+           resolve(library, "SDL_HasEvent", sdl.HasEvent) && resolve(library, "SDL_FlushEvents", sdl.FlushEvents) &&
            resolve(library, "SDL_OpenAudioDevice", sdl.OpenAudioDevice) &&
            resolve(library, "SDL_CloseAudioDevice", sdl.CloseAudioDevice) &&
            resolve(library, "SDL_PauseAudioDevice", sdl.PauseAudioDevice) &&

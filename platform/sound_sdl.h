@@ -9,14 +9,17 @@
 
 namespace platform {
 
-/// What the program uses of SDL, by the names without their prefix. The library is loaded when it is first asked for:
-/// with all that it brings along it would make a fifth of the time until the window shows.
+/// What the program uses of SDL, by the names without their prefix. Loaded on first use: with its dependencies it would
+/// take a fifth of the time until the window shows.
 struct Sdl {
     decltype(&SDL_InitSubSystem) InitSubSystem;
     decltype(&SDL_QuitSubSystem) QuitSubSystem;
     decltype(&SDL_SetMainReady) SetMainReady;
     decltype(&SDL_SetHint) SetHint;
     decltype(&SDL_TLSCleanup) TLSCleanup;
+    decltype(&SDL_PumpEvents) PumpEvents;
+    decltype(&SDL_HasEvent) HasEvent;
+    decltype(&SDL_FlushEvents) FlushEvents;
     decltype(&SDL_OpenAudioDevice) OpenAudioDevice;
     decltype(&SDL_CloseAudioDevice) CloseAudioDevice;
     decltype(&SDL_PauseAudioDevice) PauseAudioDevice;

@@ -11,6 +11,7 @@
 #include "platform/look.h"
 #include "platform/process.h"
 #include "platform/screen.h"
+#include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/yield.h"
 #include "rules/random.h"
@@ -36,6 +37,7 @@ QIcon windowIcon() {
 
 int main(int, char* argv[]) {
     platform::prepareProcess();
+    platform::hideSilentServices();
     // There is no command line: the toolkit would take options of its own from it.
     int argc = 1;
     const QApplication application(argc, argv);

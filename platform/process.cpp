@@ -6,6 +6,8 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
+#include <iostream>
 
 #include <QSocketNotifier>
 #include <fcntl.h>
@@ -34,6 +36,14 @@ void handle(int signal, void (*handler)(int)) {
     sigaction(signal, &handling, nullptr);
 }
 
+// Without a display, the toolkit logs why it cannot start, as a fatal message. It would then abort, with a core file.
+void logMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    std::cerr << qPrintable(qFormatLogMessage(type, context, message)) << std::endl;
+    if (type == QtFatalMsg) {
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
 // The library of session management, which the toolkit loads, would end the program on the spot.
 void outliveSessionManager() {
     void* (*setErrorHandler)(void (*)(void*)) = nullptr;
@@ -46,6 +56,7 @@ void outliveSessionManager() {
 }  // namespace
 
 void prepareProcess() {
+    qInstallMessageHandler(&logMessage);
     // Not by ignoring them, which the programs that are started from here would inherit.
     for (const int signal : {SIGPIPE, SIGXFSZ}) {
         handle(signal, [](int) {});

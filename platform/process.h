@@ -9,9 +9,9 @@ class QObject;
 
 namespace platform {
 
-/// To be called before all else. From then on, what is written to a connection that is closed or beyond the largest
-/// size of files fails, and does not end the program (SIGPIPE, SIGXFSZ); and what is written to a standard stream that
-/// was closed from the start goes nowhere, not into whatever would be opened in its place.
+/// Call this first in main(). From then on a write to a closed connection, or beyond the file-size limit, fails instead
+/// of killing the program (SIGPIPE, SIGXFSZ); output to a standard stream that was closed at the start goes to
+/// /dev/null; and a fatal message of the toolkit, such as "no display", ends the program with the exit status 1.
 void prepareProcess();
 
 /// Runs an action, from the event loop, when the system asks the program to end (SIGTERM, SIGINT or SIGHUP), or when

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/services.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QFile>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "platform/shared_library.h"
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr const char* sessionBusVariable = "DBUS_SESSION_BUS_ADDRESS";
+constexpr const char* accessibilityBusVariable = "AT_SPI_BUS_ADDRESS";
+constexpr const char* sessionManagerVariable = "SESSION_MANAGER";
+constexpr const char* noBus = "disabled:";
+
+bool mayHaveSessionBus() {
+    const QByteArray address = qgetenv(sessionBusVariable);
+    return address.isEmpty() ? QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/bus"_s) : address != noBus;
+}
+
+void greetSessionBus() {
+    QDBusConnection::sessionBus();
+}
+
+bool mayHaveAccessibilityBus() {
+    return !qEnvironmentVariableIsEmpty(accessibilityBusVariable) || mayHaveSessionBus();
+}
+
+void greetAccessibilityBus() {
+    QString address = qEnvironmentVariable(accessibilityBusVariable);
+    if (address.isEmpty()) {
+        QDBusMessage question =
+            QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus"_s, u"GetAddress"_s);
+        question.setAutoStartService(false);
+        address = QDBusConnection::sessionBus().call(question).arguments().value(0).toString();
+    }
+    QDBusConnection::connectToBus(address, u"accessibility"_s);
+}
+
+bool mayHaveSessionManager() {
+    return !qEnvironmentVariableIsEmpty(sessionManagerVariable);
+}
+
+void greetSessionManager() {
+    void* (*openConnection)(const char*, void*, int, int, int, char*) = nullptr;
+    void* library = loadLibrary("libICE.so.6");
+    if (library != nullptr && resolve(library, "IceOpenConnection", openConnection)) {
+        std::array<char, 256> error{};
+        openConnection(std::getenv(sessionManagerVariable), nullptr, 0, 0, error.size(), error.data());
+    }
+}
+
+struct Service {
+    bool (*mayBeThere)();
+    void (*greet)();       ///< returns when the service has answered, or is not there after all
+    const char* variable;  ///< the environment variable with its address
+    const char* hidden;    ///< a value with which the toolkit does not try
+};
+
+constexpr std::array services{
+    Service{mayHaveSessionBus, greetSessionBus, sessionBusVariable, noBus},
+    Service{mayHaveAccessibilityBus, greetAccessibilityBus, accessibilityBusVariable, noBus},
+    Service{mayHaveSessionManager, greetSessionManager, sessionManagerVariable, ""},
+};
+
+/// A process that greets a service, since a greeting may last for ever. Both members are -1 if no process was started.
+struct Greeter {
+    pid_t process = -1;
+    int ending = -1;  ///< a pipe that closes when the process ends
+};
+
+Greeter greeterOf(const Service& service) {
+    std::array<int, 2> ends{};
+    if (!service.mayBeThere() || pipe2(ends.data(), O_CLOEXEC) != 0) {
+        return {};
+    }
+    const pid_t process = fork();
+    if (process == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        int argc = 0;
+        const QCoreApplication application(argc, nullptr);
+        service.greet();
+        _exit(0);
+    }
+    close(ends[1]);
+    if (process < 0) {
+        close(ends[0]);
+        return {};
+    }
+    return {process, ends[0]};
+}
+
+/// Waits for the end of the process, but not beyond the deadline. Returns whether it has ended.
+bool endsBy(Clock::time_point deadline, const Greeter& greeter) {
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+    pollfd ending{.fd = greeter.ending, .events = POLLIN, .revents = 0};
+    return poll(&ending, 1, std::max(0, static_cast<int>(left.count()))) > 0;
+}
+
+}  // namespace
+
+void hideSilentServices() {
+    std::array<Greeter, services.size()> greeters;
+    std::ranges::transform(services, greeters.begin(), greeterOf);
+    const auto deadline = Clock::now() + std::chrono::milliseconds(1500);
+    for (std::size_t i = 0; i < services.size(); ++i) {
+        const Greeter& greeter = greeters[i];
+        if (greeter.process < 0) {
+            continue;
+        }
+        if (!endsBy(deadline, greeter)) {
+            kill(greeter.process, SIGKILL);
+            qputenv(services[i].variable, services[i].hidden);
+            qWarning("The service of %s does not answer and is left out.", services[i].variable);
+        }
+        waitpid(greeter.process, nullptr, 0);
+        close(greeter.ending);
+    }
+}
+
+}  // namespace platform

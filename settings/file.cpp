@@ -5,12 +5,14 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
 #include <thread>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QIODevice>
@@ -26,7 +28,7 @@ namespace settings {
 
 namespace {
 
-// Of the file that takes the place of another one, behind a dot and six letters. Whatever ends so is ours to remove.
+// Suffix of a replacement being written, after a dot and six random letters. Any file named so may be removed.
 constexpr std::string_view temporarySuffix = ".part";
 
 bool isTemporaryName(std::string_view name, std::string_view original) {
@@ -49,10 +51,32 @@ struct Replacement : QTemporaryFile {
         : QTemporaryFile(path + u".XXXXXX"_s + QLatin1StringView(temporarySuffix)), place(QFile::encodeName(path)) {}
 
     bool holds(const QByteArray& bytes) { return open() && write(bytes) == bytes.size() && flush(); }
-    bool moves() const { return std::rename(QFile::encodeName(fileName()).constData(), place.constData()) == 0; }
+
+    /// Returns 0 or an errno.
+    int move() const {
+        return std::rename(QFile::encodeName(fileName()).constData(), place.constData()) == 0 ? 0 : errno;
+    }
 
     QByteArray place;
 };
+
+/// Whether a call that sets a mode or syncs succeeded or is not possible on this file system: a save goes on without
+/// it. Any other error, such as EIO, means that the disk may not hold the bytes. So does EROFS: fsync() reports it when
+/// a damaged file system has become read-only.
+bool succeededOrUnsupported(int result) {
+    return result == 0 || errno == EACCES || errno == EPERM || errno == EINVAL || errno == ENOSYS ||
+           errno == EOPNOTSUPP;
+}
+
+bool syncFolder(const QString& folder) {
+    const int descriptor = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) {
+        return succeededOrUnsupported(descriptor);
+    }
+    const bool isSynced = succeededOrUnsupported(fsync(descriptor));
+    close(descriptor);
+    return isSynced;
+}
 
 }  // namespace
 
@@ -83,19 +107,52 @@ FileContent readFile(const QString& path) {
     return {FileContent::State::read, bytes};
 }
 
-bool replaceFile(const QString& path, const QByteArray& bytes) {
-    const QFileInfo old(targetOf(path));
-    if (old.exists() && !old.isWritable()) {
-        return false;
+void makeFolder(const QString& folder) {
+    const QString parent = QFileInfo(folder).path();
+    if (parent == folder || folder.size() >= PATH_MAX || QFileInfo::exists(folder)) {
+        return;
     }
-    Replacement file(old.filePath());
-    return file.holds(bytes) && (!old.exists() || file.setPermissions(old.permissions())) &&
-           fdatasync(file.handle()) == 0 && file.moves();
+    makeFolder(parent);
+    if (QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner)) {
+        syncFolder(parent);
+    }
+}
+
+Replaced replaceFile(const QString& path, const QByteArray& bytes) {
+    const QString target = targetOf(path);
+    const QByteArray name = QFile::encodeName(target);
+    struct stat old {};
+    const bool exists = stat(name.constData(), &old) == 0;
+    if (exists ? access(name.constData(), W_OK) != 0 : errno != ENOENT) {
+        return Replaced::no;
+    }
+    Replacement file(target);
+    if (!file.holds(bytes) || (exists && !succeededOrUnsupported(fchmod(file.handle(), old.st_mode & 07777))) ||
+        !succeededOrUnsupported(fdatasync(file.handle()))) {
+        return Replaced::no;
+    }
+    if (const int error = file.move(); error != 0) {
+        return error == EBUSY || error == EXDEV ? Replaced::onlyInPlace : Replaced::no;
+    }
+    return syncFolder(QFileInfo(target).path()) ? Replaced::yes : Replaced::no;
+}
+
+bool overwriteFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    // The disk may write in any order between two syncs. The first byte comes last: it makes the others valid.
+    const auto isSynced = [&] { return succeededOrUnsupported(fsync(file.handle())); };
+    return file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered) && isSynced() &&
+           file.write(unfinished(bytes)) == bytes.size() && isSynced() && file.seek(0) &&
+           file.write(bytes.first(1)) == 1 && isSynced();
+}
+
+QByteArray unfinished(const QByteArray& bytes) {
+    return bytes.isEmpty() ? bytes : '\0' + bytes.sliced(1);
 }
 
 bool replaceCopy(const QString& path, const QByteArray& bytes) {
     Replacement file(path);
-    return file.holds(bytes) && file.moves();
+    return file.holds(bytes) && file.move() == 0;
 }
 
 void removeLeftovers(const QString& path) {
@@ -111,22 +168,25 @@ void removeLeftovers(const QString& path) {
     }
 }
 
-bool lock(QFile& file, std::chrono::nanoseconds& patience) {
+Lock lock(QFile& file, std::chrono::nanoseconds& patience) {
     using Clock = std::chrono::steady_clock;
     if (!file.open(QIODevice::ReadWrite)) {
-        return false;
+        return Lock::impossible;
     }
     constexpr std::chrono::nanoseconds longestTry = std::chrono::milliseconds(10);
     while (flock(file.handle(), LOCK_EX | LOCK_NB) != 0) {
-        if (errno != EWOULDBLOCK || patience <= std::chrono::nanoseconds::zero()) {
-            return false;
+        if (errno != EWOULDBLOCK && errno != EINTR) {
+            return Lock::impossible;
+        }
+        if (patience <= std::chrono::nanoseconds::zero()) {
+            return Lock::heldByAnother;
         }
         const auto begin = Clock::now();
         std::this_thread::sleep_for(std::min<std::chrono::nanoseconds>(patience, std::chrono::milliseconds(1)));
-        // What a stall of this program adds is no waiting for the other one.
+        // Time during which this program itself was stalled does not count against its patience.
         patience -= std::min<std::chrono::nanoseconds>(longestTry, Clock::now() - begin);
     }
-    return true;
+    return Lock::held;
 }
 
 }  // namespace settings

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -23,19 +22,11 @@ constexpr QLatin1StringView backupSuffix = ".bak"_L1;
 constexpr QLatin1StringView rejectedSuffix = ".bad"_L1;
 constexpr QLatin1StringView lockSuffix = ".lock"_L1;
 
-/// The text that a raise leaves where the other one is: the new one, unless the other holds a number as high.
+/// What a raise stores over `current`: `text`, unless `current` is a number at least as high.
 QString raised(const QString& current, const QString& text) {
     const std::optional<double> standing = numberIn(current);
     const std::optional<double> candidate = numberIn(text);
     return standing && (!candidate || *standing >= *candidate) ? current : text;
-}
-
-void makeFolder(const QString& folder) {
-    QDir root;
-    // A configuration folder is nobody else's business; the folders above it are made in the usual way.
-    if (!root.mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner)) {
-        root.mkpath(folder);
-    }
 }
 
 }  // namespace
@@ -112,8 +103,9 @@ void Store::save(Locking locking) {
     }
     makeFolder(QFileInfo(path).path());
     QFile lockFile(path + lockSuffix);
-    const bool locked = lock(lockFile, patience);
-    if (!locked && locking == Locking::required) {
+    const Lock lockState = lock(lockFile, patience);
+    // If the lock is impossible, waiting for it would only put off the save until a kill may lose it.
+    if (lockState == Lock::heldByAnother && locking == Locking::required) {
         return;
     }
     const Stored old = stored();
@@ -130,13 +122,15 @@ void Store::save(Locking locking) {
             unsavable.emplace(name, change);
         }
     }
-    if (settings != old.file) {
-        if (locked) {
+    // After a failed sync all is written again: a second sync of the same bytes may succeed without writing them.
+    if (settings != old.file || !isOnDisk) {
+        if (lockState == Lock::held) {
             removeLeftovers(path);
             removeLeftovers(path + backupSuffix);
             removeLeftovers(path + rejectedSuffix);
         }
-        if (!replace(old, settings)) {
+        isOnDisk = replace(old, settings);
+        if (!isOnDisk) {
             return;
         }
     }
@@ -145,11 +139,16 @@ void Store::save(Locking locking) {
 
 /// Puts the settings in the place of what is stored. At every moment one of the file and its backup is whole.
 bool Store::replace(const Stored& old, const QByteArray& settings) const {
-    const bool isRejected = old.file != old.settings && !old.file.isEmpty();
-    if (isRejected && !replaceFile(path + rejectedSuffix, old.file)) {
+    // An empty file has nothing to keep, and neither has a stopped write in place, whose bytes are in the backup.
+    const bool isRejected = old.file != old.settings && !unfinished(old.settings).startsWith(old.file);
+    if (isRejected && replaceFile(path + rejectedSuffix, old.file) != Replaced::yes) {
         return false;
     }
-    if (!replaceFile(path, settings)) {
+    const Replaced replaced = replaceFile(path, settings);
+    if (replaced == Replaced::onlyInPlace) {
+        return replaceFile(path + backupSuffix, settings) == Replaced::yes && overwriteFile(path, settings);
+    }
+    if (replaced == Replaced::no) {
         return false;
     }
     // The file is safe on the disk by now: the copy, against damage by others, need neither succeed nor be

@@ -19,8 +19,8 @@ namespace settings {
 /// Every change is saved at once, together with all that could not be saved before; `read` shows it in any
 /// case. Nothing is ever written over a file that cannot be read. A file that is no settings file is copied
 /// to `<path>.bad` before the first save; until then, the values come from `<path>.bak`, which holds what was
-/// last saved. No call reports a failure. All of them together wait at most `longestWait` for other copies, and
-/// closing a fifth of a second more.
+/// last saved. A file that cannot be renamed over is written in place after `<path>.bak`. No call reports a failure.
+/// All of them together wait at most `longestWait` for other copies, and closing a fifth of a second more.
 class Store {
   public:
     /// A store in this file; in memory only if the path is empty. Nothing is read or created yet.
@@ -68,6 +68,7 @@ class Store {
 
     QString path;
     std::map<Name, Change> unsaved;
+    bool isOnDisk = true;  // false after a failed save: even if the file holds its bytes, a power cut may undo them
     std::chrono::nanoseconds patience;
 };
 

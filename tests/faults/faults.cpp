@@ -44,8 +44,9 @@ namespace {
 /// paths, to which a signal handler may write.
 int faultOf(const char* operation, std::string_view path) {
     Plan& now = plan();
-    const bool isInFolder = path.starts_with(now.folder) && path.substr(now.folder.size()).starts_with('/');
-    if (now.folder.empty() || !isInFolder || (!now.only.empty() && now.only != operation)) {
+    const std::size_t length = now.folder.size();
+    const bool isInFolder = path.starts_with(now.folder) && (path.size() == length || path[length] == '/');
+    if (length == 0 || !isInFolder || (!now.only.empty() && now.only != operation)) {
         return 0;
     }
     static std::mutex mutex;
@@ -78,17 +79,12 @@ int failure(int fault) {
     return -1;
 }
 
-template <typename Function>
-Function* original(const char* name, Function* function) {
-    platform::resolve(RTLD_NEXT, name, function);
-    return function;
-}
-
 /// The call itself, or its failure, by what strikes this operation on a path or descriptor.
 template <typename Function, typename... Arguments>
 auto call(const char* name, auto where, Function* function, Arguments... arguments) {
     const int fault = faultOf(name, where);
-    return fault != 0 ? failure(fault) : original(name, function)(arguments...);
+    platform::resolve(RTLD_NEXT, name, function);
+    return fault != 0 ? failure(fault) : function(arguments...);
 }
 
 /// A read or write of `size` bytes, or of as many as the fault leaves; by the system call itself, for a signal handler
@@ -98,12 +94,6 @@ ssize_t transfer(const char* name, long number, int descriptor, Bytes* bytes, si
     const int fault = faultOf(name, descriptor);
     const size_t done = fault == cutShort ? size / 2 : size;
     return fault > 0 ? failure(fault) : syscall(number, descriptor, bytes, done);
-}
-
-/// Without the disk, for which thousands of saves would wait: no test cuts the power.
-int sync(const char* name, int descriptor) {
-    const int fault = faultOf(name, descriptor);
-    return fault != 0 ? failure(fault) : 0;
 }
 
 }  // namespace
@@ -117,8 +107,7 @@ int open(const char* path, int flags, ...) {
     va_start(more, flags);
     const auto mode = va_arg(more, mode_t);
     va_end(more);
-    const int fault = faults::faultOf("open", path);
-    return fault != 0 ? faults::failure(fault) : faults::original("open", &open)(path, flags, mode);
+    return faults::call("open", path, &open, path, flags, mode);
 }
 int open64(const char* path, int flags, ...) __attribute__((alias("open")));
 
@@ -129,10 +118,10 @@ ssize_t write(int descriptor, const void* bytes, size_t size) {
     return faults::transfer("write", SYS_write, descriptor, bytes, size);
 }
 int fsync(int descriptor) {
-    return faults::sync("fsync", descriptor);
+    return faults::call("fsync", descriptor, &fsync, descriptor);
 }
 int fdatasync(int descriptor) {
-    return faults::sync("fdatasync", descriptor);
+    return faults::call("fdatasync", descriptor, &fdatasync, descriptor);
 }
 int flock(int descriptor, int operation) noexcept {
     return faults::call("flock", descriptor, &flock, descriptor, operation);
@@ -140,7 +129,13 @@ int flock(int descriptor, int operation) noexcept {
 int linkat(int oldFolder, const char* oldPath, int newFolder, const char* newPath, int flags) noexcept {
     return faults::call("linkat", newPath, &linkat, oldFolder, oldPath, newFolder, newPath, flags);
 }
+int fchmod(int descriptor, mode_t mode) noexcept {
+    return faults::call("fchmod", descriptor, &fchmod, descriptor, mode);
+}
 int rename(const char* oldPath, const char* newPath) noexcept {
+    if (faults::plan().immovable != 0 && std::string_view(newPath).ends_with(".ini")) {
+        return faults::failure(faults::plan().immovable);
+    }
     return faults::call("rename", newPath, &rename, oldPath, newPath);
 }
 int stat(const char* path, struct stat* status) noexcept {

@@ -13,10 +13,11 @@ inline constexpr int cutShort = -1;  ///< half of what was to be read or written
 inline constexpr int slow = -2;      ///< five milliseconds later
 
 struct Plan {
-    std::string folder;    ///< only operations on what is in there count
+    std::string folder;    ///< only operations on it and on what is in there count
     int first = 0;         ///< the operation that is struck, counted from 1
     bool lasting = false;  ///< so are all that follow
     int fault = 0;         ///< errno, `cutShort` or `slow`
+    int immovable = 0;     ///< errno of every rename to a settings file, as if it were a mount point; 0 for none
     std::string only;      ///< operations of this name alone count, if it is not empty
     std::string log;       ///< a file that takes the name of the first operation struck
     std::string struck;    ///< that name

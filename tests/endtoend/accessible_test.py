@@ -13,7 +13,7 @@ import model
 from case import PROGRAM, Case, main
 from desktop import PATIENCE, wait_for
 from player import COLOURS, Player, pixels_of
-from screen_reader import ScreenReader
+from screen_reader import ScreenReader, role_of
 
 SMALL = "Col=8\nLig=14\nSon=0\n"
 SIZE = (738, 467)  # of a window with 25 columns and 20 rows
@@ -56,7 +56,7 @@ class Accessible(Case):
     def test_screen_reader(self):
         with self.reader() as (reader, player):
             while not (presses := model.game_ending_with(1, board := reader.board())):
-                reader.press(reader.find("push button", "Nouvelle"))
+                reader.press(reader.find("button", "Nouvelle"))
                 reader.wait_to_hear("Il reste 112 balles sur 112.")
             reader.find("table")[0].queryComponent().grabFocus()
             wait_for("the focus", lambda: reader.listen() or any("ligne 1, colonne 1," in it for it in reader.heard))
@@ -85,25 +85,25 @@ class Accessible(Case):
             reader.press(reader.find("notification", "Terminé"))
             wait_for("the panel gone", lambda: reader.listen() or not any("Terminé" in it.name for it in reader.all()))
             self.assertEqual(reader.board(), board)
-            self.assertEqual(self.said_of(reader, "push button"), {
+            self.assertEqual(self.said_of(reader, "button"), {
                 "Nouvelle": ("Recommencer une partie", "F2"), "Quitter": ("Quitter la partie", "Ctrl+Q"),
                 "Zéro": ("Remettre à zéro le meilleur score de ce niveau de difficulté.", "Ctrl+R"),
                 "Aide": ("A Propos / Aide", "F1")})
             self.assertTrue(reader.find("text", "Colonnes").queryText().getText(0, -1) == "8" and
                             reader.find("text", "Lignes").queryText().getText(0, -1) == "14")
-            reader.press(reader.find("push button", "Aide"))
+            reader.press(reader.find("button", "Aide"))
             reader.find("link")
             self.assertEqual(self.said_of(reader, "link"), {
                 "Coucou !!!": ("Envoyer un mail a l'auteur", ""), "Site de l'auteur": ("Plein d'autres jeux", ""),
                 "Retour": ("", "")})
             reader.press(reader.find("link", "Retour"))
-            reader.press(reader.find("push button", "Zéro"))
-            reader.press(reader.find("push button", "Quitter"))
+            reader.press(reader.find("button", "Zéro"))
+            reader.press(reader.find("button", "Quitter"))
             self.assertEqual(player.process.wait(PATIENCE), 0)
             self.assertEqual(player.stored()["0"], "0")
 
     def said_of(self, reader, role):
-        controls = [it for it in reader.all() if it.getRoleName() == role]
+        controls = [it for it in reader.all() if role_of(it) == role]
         return {it.name: (it.description, it.queryAction().getKeyBinding(0)) for it in controls}
 
     def test_scales(self):

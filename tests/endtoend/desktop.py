@@ -77,7 +77,8 @@ class Desktop:
 
     def xdotool(self, *words):
         """What the command prints; nothing if it fails."""
-        return self.run("xdotool", *map(str, words))
+        # With the keyboard tables of 2025, xdotool would press Alt as well for the names of these keys.
+        return self.run("xdotool", *({"F1": "67", "F2": "68"}.get(word, str(word)) for word in words))
 
     def run(self, *command):
         return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=PATIENCE).stdout

@@ -47,9 +47,8 @@ class Files(unittest.TestCase):
         """Starts the program in the folder of its file, does something else once it has dealt, and ends it."""
         settings = {"HOME": str(ini.parent), "XDG_CONFIG_HOME": str(ini.parent), "QT_QPA_PLATFORM": "offscreen",
                     "SDL_AUDIODRIVER": "dummy", **environment}
-        inherited = {name: value for name, value in os.environ.items() if name not in unset}
-        kept = {name: value for name, value in settings.items() if name not in unset}
-        process = subprocess.Popen([*prefix, PROGRAM], env=inherited | kept, cwd=ini.parent, stderr=subprocess.DEVNULL)
+        kept = {name: value for name, value in (os.environ | settings).items() if name not in unset}
+        process = subprocess.Popen([*prefix, PROGRAM], env=kept, cwd=ini.parent, stderr=subprocess.DEVNULL)
         try:
             wait_for("the program", lambda: process.poll() is not None or catches(process, signal.SIGTERM))
             meanwhile(process)
@@ -71,12 +70,10 @@ class Files(unittest.TestCase):
                     self.run_once(ini, LD_PRELOAD=str(FAULTS), FAULTS=f"{ini.parent} {first} {lasting} {kind} {log}")
                     struck = log.exists()
                     operations |= {log.read_text()} if struck else set()
-                    text = ini.read_text()
-                    values = "\\[init]\nx=y\nNiveau=[02]\nCol=(5|8|25)\nLig=2[05]\nSon=[12]\n0=10\n2=(abc|0)\n"
-                    self.assertRegex(text, f"\\A{values}\\Z")
-                    if not lasting:
-                        self.assertIn("\nSon=1\n", text, "what could not be saved is saved at the end")
-        self.assertEqual(operations, {"fdatasync", "flock", "linkat", "open", "read", "rename", "stat", "write"})
+                    sound = "[12]" if lasting else "1"  # what could not be saved is saved at the end
+                    values = f"Niveau=[02]\nCol=(5|8|25)\nLig=2[05]\nSon={sound}\n0=10\n2=(abc|0)"
+                    self.assertRegex(ini.read_text(), f"\\A\\[init]\nx=y\n{values}\n\\Z")
+        self.assertEqual(sorted(operations), "fchmod fdatasync flock fsync linkat open read rename stat write".split())
 
     def test_full_disks(self):
         def unlimit(process):
@@ -90,6 +87,9 @@ class Files(unittest.TestCase):
         unshare = ["unshare", "--mount", *(["--map-root-user"] if os.geteuid() else [])]
         if subprocess.run([*unshare, "true"], stderr=subprocess.DEVNULL).returncode:
             self.skipTest("This system lets nobody mount a small disk.")
+        with self.subTest("mount point"), self.home(SETTINGS) as ini:
+            self.run_once(ini, *unshare, "sh", "-c", 'mount --bind "$0" "$0" && exec "$1"', ini)
+            self.assertEqual(ini.read_bytes(), CORRECTED)
         for freed, result in ((False, SETTINGS), (True, CORRECTED)):
             with self.subTest(freed=freed), self.home() as mount, subprocess.Popen(
                     [*unshare, "sh", "-c",
@@ -106,26 +106,22 @@ class Files(unittest.TestCase):
                 keeper.stdin.close()
 
     def test_files(self):
-        for name, content in {"nothing": b"", "NUL": b"[init]\n0=5\n\0", "UTF-16": "[init]\n0=5\n".encode("utf-16"),
-                              "junk": bytes(range(256)) * 99, "no line": b"\n\n"}.items():
-            with self.subTest(content=name), self.home(content, BACKUP) as ini:
+        for content, best in (
+            (b"", 77), (b"[init]\n0=5\n\0", 77), ("[init]\n0=5\n".encode("utf-16"), 77), (b"\n\n", 77),
+            (bytes(range(256)) * 99, 77), (b"[init]\nNiveau=0\n0=78\nCo", 78), (b"[init]\n0=5\n0=78", 78),
+            (b"\xef\xbb\xbf[init]\r\n0 = 78\r\n", 78),
+        ):
+            with self.subTest(content=content[:30]), self.home(content, BACKUP) as ini:
                 self.run_once(ini)
-                self.assertIn(b"\n0=77\n", ini.read_bytes())
-                self.assertEqual([file.read_bytes() for file in ini.parent.glob("*.bad")], [content] if content else [])
-        for content in b"[init]\nNiveau=0\n0=77\nCo", b"[init]\n0=5\n0=77", b"\xef\xbb\xbf[init]\r\n0 = 77\r\n":
-            with self.subTest(content=content), self.home(content, b"[init]\n0=5\n") as ini:
-                self.run_once(ini)
-                self.assertRegex(ini.read_bytes(), b"\n0 ?= ?77\r?\n")
+                self.assertRegex(ini.read_bytes(), b"\n0 ?= ?%d\r?\n" % best)
+                rejected = [content] if content and best == 77 else []
+                self.assertEqual([file.read_bytes() for file in ini.parent.glob("*.bad")], rejected)
         for name, make, stays in (
             ("gigabyte", lambda ini: os.truncate(ini, 1 << 30) or ini, lambda ini: ini.stat().st_size == 1 << 30),
             ("FIFO", lambda ini: ini.unlink() or os.mkfifo(ini), pathlib.Path.is_fifo),
             ("device", lambda ini: ini.unlink() or ini.symlink_to("/dev/zero"), pathlib.Path.is_symlink),
             ("folder", lambda ini: ini.unlink() or ini.mkdir(), pathlib.Path.is_dir),
             ("loop of links", lambda ini: ini.unlink() or ini.symlink_to(ini), pathlib.Path.is_symlink),
-            ("link", lambda ini: ini.symlink_to(ini.rename(ini.with_name("file"))),
-             lambda ini: ini.is_symlink() and ini.read_bytes() == CORRECTED),
-            ("0600", lambda ini: ini.chmod(0o600),
-             lambda ini: ini.stat().st_mode & 0o777 == 0o600 and ini.read_bytes() == CORRECTED),
             *((oct(mode), lambda ini, mode=mode: ini.chmod(mode), lambda ini: ini.read_bytes() == SETTINGS)
               for mode in (0o444, 0o222)),
         ):

@@ -14,6 +14,11 @@ COLOURS = {"rouge": "r", "bleue": "b", "verte": "v", "jaune": "j", "magenta": "p
 CELL = re.compile(r"(?:boule (\w+)|case vide), ligne (\d+), colonne (\d+)(?:, groupe de (\d+))?")
 
 
+def role_of(control):
+    """Its name, for a button as newer systems say it."""
+    return control.getRoleName().removeprefix("push ")
+
+
 class ScreenReader:
     def __init__(self, desktop):
         """To be there before the program starts."""
@@ -64,7 +69,7 @@ class ScreenReader:
         def found():
             self.listen()
             with contextlib.suppress(self.glib.Error, LookupError):
-                return next((it for it in self.all() if it.getRoleName() == role and name in it.name), None)
+                return next((it for it in self.all() if role_of(it) == role and name in it.name), None)
         return wait_for(f"{role} {name}", found)
 
     def press(self, control):

@@ -45,9 +45,9 @@ class Surroundings(Case):
 
     @contextlib.contextmanager
     def silent_server(self, desktop):
-        """A sound server that takes every connection and never answers."""
+        """A server that takes every connection and never answers."""
         with socket.socket(socket.AF_UNIX) as server:
-            server.bind(str(desktop.home / "sound"))
+            server.bind(str(desktop.home / "silent"))
             server.listen()
             yield
             server.settimeout(PATIENCE)
@@ -58,7 +58,7 @@ class Surroundings(Case):
             ("no device", {"SDL_AUDIODRIVER": "alsa", "ALSA_CONFIG_PATH": "/dev/null"}, contextlib.nullcontext),
             ("no such driver", {"SDL_AUDIODRIVER": "none"}, contextlib.nullcontext),
             ("stalling device", {}, self.stalling_device),
-            ("silent server", {"SDL_AUDIODRIVER": "pulseaudio", "PULSE_SERVER": "unix:sound"}, self.silent_server),
+            ("silent server", {"SDL_AUDIODRIVER": "pulseaudio", "PULSE_SERVER": "unix:silent"}, self.silent_server),
         ):
             with self.subTest(name), self.desktop(session=session) as desktop, device(desktop):
                 player, took = Player(desktop, PROGRAM, SETTINGS + "Son=1\n"), []
@@ -68,6 +68,24 @@ class Surroundings(Case):
                     took.append(seconds)
                 self.leave(player)
                 print(f"{name}: seconds of the moves: {took}")
+
+    def test_silent_services(self):
+        for variable, address in (("DBUS_SESSION_BUS_ADDRESS", "unix:path={}/silent"),
+                                  ("AT_SPI_BUS_ADDRESS", "unix:path={}/silent"),
+                                  ("SESSION_MANAGER", f"local/{os.uname().nodename}:{{}}/silent")):
+            with self.subTest(variable), self.desktop() as desktop, self.silent_server(desktop):
+                desktop.environment[variable] = address.format(desktop.home)
+                player = Player(desktop, PROGRAM, SETTINGS + "Son=0\n")
+                self.play(player, player.board())
+                self.leave(player)
+
+    def test_no_display(self):
+        for broken in {"DISPLAY": ":none"}, {"QT_QPA_PLATFORM": "none"}:
+            with self.subTest(broken), self.desktop(managed=False) as desktop:
+                desktop.environment |= broken
+                process = desktop.start(PROGRAM, errors=subprocess.PIPE)
+                self.assertIn(b"no Qt platform plugin could be initialized", process.stderr.read())
+                self.assertEqual(process.wait(PATIENCE), 1)
 
     def test_closed_streams(self):
         for stream in ("2>&-", "2> >(true)"):  # closed from the start, and a pipe whose reader leaves

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "rules/move.h"
-
 #include <QCheckBox>
 
 #include "tests/mainwindow/world.h"
@@ -11,21 +9,6 @@ namespace mainwindow {
 namespace {
 
 constexpr auto columns = "rb rb rb";  // a column of each colour
-
-TEST(Move, PressShowsReportsAndPlaysTheMoveWithAnyButton) {
-    for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
-        World world;
-        world.open(columns);
-        world.press(4, button);
-        EXPECT_EQ(world.game().board, picture("r. r. r."));
-        EXPECT_EQ(world.text("sc"), "8");
-        EXPECT_EQ(world.text("Label4"), "8");
-        EXPECT_EQ(world.text("l1", 0), "3 balles crevées (8 points.)");
-        EXPECT_EQ(world.text("l1", 3), "Il reste 3 balles sur 6.");
-        EXPECT_EQ(world.sound.played, std::vector<std::string>{"son5.WAV"});
-        EXPECT_EQ(world.stored("0"), "8");
-    }
-}
 
 TEST(Move, SoundDeviceOpensWhileTheBallsVanishButNeverInVain) {
     World world;
@@ -79,6 +62,7 @@ TEST(Move, ClosingDuringAMoveEndsItAtOnceAndLosesNothing) {
         EXPECT_FALSE(world.window->isVisible());
         EXPECT_EQ(world.pauses, 1) << "no pace once the player waits for the end";
         EXPECT_TRUE(world.sound.played.empty());
+        EXPECT_EQ(world.text("Label4"), "8");
         EXPECT_EQ(world.stored("0"), "8");
         EXPECT_EQ(world.stored("Son"), "1");
     }

@@ -45,16 +45,20 @@ class Packaging(unittest.TestCase):
 
     def test_validators_say_nothing(self):
         man = ("man", "--warnings", "--encoding=UTF-8", "--local-file", "--troff-device=utf8", "--ditroff")
-        for command, said in (
-            (("desktop-file-validate", self.share / "applications/zampotine.desktop"), ""),
+        clone = self.folder / "clone"
+        self.assertEqual(run("git", "clone", "--quiet", ROOT, clone)[0], 0)  # without the stray files of a work tree
+        run("reuse", "--root", clone, "convert-dep5")  # newer versions warn of .reuse/dep5, older ones know only that
+        old_appstream = (3, "I: org.example.zampotine:11: unknown-tag developer\n\n✘ Validation failed: infos: 1\n")
+        for command, *allowed in (
+            (("desktop-file-validate", self.share / "applications/zampotine.desktop"), (0, "")),
             (("appstreamcli", "validate", "--no-net", "--strict", "--pedantic", self.share / METAINFO),
-             "✔ Validation was successful.\n"),
-            (("lintian", "--allow-root", "--pedantic", "--no-override", self.package), ""),
-            (("reuse", "--root", ROOT, "lint", "--quiet"), ""),
-            *((("sh", "-c", '"$@" >/dev/null', "sh", *man, self.share / manual), "") for manual in MANUALS),
+             (0, "✔ Validation was successful.\n"), old_appstream),
+            (("lintian", "--allow-root", "--pedantic", "--no-override", self.package), (0, "")),
+            (("reuse", "--root", clone, "lint", "--quiet"), (0, "")),
+            *((("sh", "-c", '"$@" >/dev/null', "sh", *man, self.share / manual), (0, "")) for manual in MANUALS),
         ):
             with self.subTest(" ".join(map(str, command))):
-                self.assertEqual(run(*command, LC_ALL="C.UTF-8", MANROFFSEQ="", MANWIDTH="80"), (0, said))
+                self.assertIn(run(*command, LC_ALL="C.UTF-8", MANROFFSEQ="", MANWIDTH="80"), allowed)
 
     def test_one_version_and_date(self):
         day = email.utils.format_datetime(datetime.datetime.fromisoformat(DATE + "T00:00:00+00:00"))

@@ -5,6 +5,7 @@
 # Tries what is committed on another release of Debian, as a new user would: makes a bare system of that release from
 # the mirror of this machine, clones into it, and runs ./play and ./check there. The picture and the logs are left in
 # build/debian-RELEASE. The system ends with this script, even if that is killed: scripts/try_debian.sh trixie
+# With --dry-run behind the release, it makes no system, and only fails if none could be made.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=scripts/steps.sh
@@ -85,7 +86,8 @@ if [[ ${2-} == inside && $$ == 1 ]]; then
     exit
 fi
 
-[[ $# == 1 && $release =~ ^[a-z]+$ ]] || fail "Name a release of Debian, such as: scripts/try_debian.sh trixie"
+[[ $release =~ ^[a-z]+$ && ($# == 1 || ${*:2} == --dry-run) ]] ||
+    fail "Name a release of Debian, such as: scripts/try_debian.sh trixie"
 [[ $EUID == 0 ]] || fail "Only root can make a system of another release; run this as root."
 namespaces=(unshare --mount --pid --fork --kill-child --mount-proc)
 # In a chroot the mounts that are there cannot be made private.
@@ -109,6 +111,7 @@ rm -f "$folder"/*.{log,png}
 mkdir "$folder/tmp"
 /usr/lib/apt/apt-helper download-file "${archive%/}/dists/$release/InRelease" "$folder/tmp/InRelease" >/dev/null 2>&1 ||
     fail "There is no release '$release' in $archive, or no way to it; check the name and the network."
+[[ $# == 1 ]] || exit 0
 # Whoever starts this in the background ignores SIGINT, and so would all that runs in the system.
 setsid setpriv --pdeathsig KILL env --default-signal "${namespaces[@]}" \
     scripts/try_debian.sh "$release" inside "$archive" &

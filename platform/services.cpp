@@ -38,15 +38,16 @@ bool mayHaveSessionBus() {
     return address.isEmpty() ? QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/bus"_s) : address != noBus;
 }
 
-void greetSessionBus() {
+bool greetSessionBus() {
     QDBusConnection::sessionBus();
+    return true;
 }
 
 bool mayHaveAccessibilityBus() {
     return !qEnvironmentVariableIsEmpty(accessibilityBusVariable) || mayHaveSessionBus();
 }
 
-void greetAccessibilityBus() {
+bool greetAccessibilityBus() {
     QString address = qEnvironmentVariable(accessibilityBusVariable);
     if (address.isEmpty()) {
         QDBusMessage question =
@@ -55,24 +56,24 @@ void greetAccessibilityBus() {
         address = QDBusConnection::sessionBus().call(question).arguments().value(0).toString();
     }
     QDBusConnection::connectToBus(address, u"accessibility"_s);
+    return true;
 }
 
 bool mayHaveSessionManager() {
     return !qEnvironmentVariableIsEmpty(sessionManagerVariable);
 }
 
-void greetSessionManager() {
+bool greetSessionManager() {
     void* (*openConnection)(const char*, void*, int, int, int, char*) = nullptr;
     void* library = loadLibrary("libICE.so.6");
-    if (library != nullptr && resolve(library, "IceOpenConnection", openConnection)) {
-        std::array<char, 256> error{};
-        openConnection(std::getenv(sessionManagerVariable), nullptr, 0, 0, error.size(), error.data());
-    }
+    std::array<char, 256> error{};
+    return library == nullptr || !resolve(library, "IceOpenConnection", openConnection) ||
+           openConnection(std::getenv(sessionManagerVariable), nullptr, 0, 0, error.size(), error.data()) != nullptr;
 }
 
 struct Service {
     bool (*mayBeThere)();
-    void (*greet)();       ///< returns when the service has answered, or is not there after all
+    bool (*greet)();       ///< returns, when the service has answered or is not there, whether the toolkit may try it
     const char* variable;  ///< the environment variable with its address
     const char* hidden;    ///< a value with which the toolkit does not try
 };
@@ -99,8 +100,7 @@ Greeter greeterOf(const Service& service) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         int argc = 0;
         const QCoreApplication application(argc, nullptr);
-        service.greet();
-        _exit(0);
+        _exit(service.greet() ? EXIT_SUCCESS : EXIT_FAILURE);
     }
     close(ends[1]);
     if (process < 0) {
@@ -110,11 +110,18 @@ Greeter greeterOf(const Service& service) {
     return {process, ends[0]};
 }
 
-/// Waits for the end of the process, but not beyond the deadline. Returns whether it has ended.
-bool endsBy(Clock::time_point deadline, const Greeter& greeter) {
+/// Waits for the process until the deadline. Returns whether it has ended by then and has not failed, as it does when
+/// what the service answers makes a library crash.
+bool succeedsBy(Clock::time_point deadline, const Greeter& greeter) {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
     pollfd ending{.fd = greeter.ending, .events = POLLIN, .revents = 0};
-    return poll(&ending, 1, std::max(0, static_cast<int>(left.count()))) > 0;
+    const bool isInTime = poll(&ending, 1, std::max(0, static_cast<int>(left.count()))) > 0;
+    if (!isInTime) {
+        kill(greeter.process, SIGKILL);
+    }
+    int status = EXIT_SUCCESS;
+    waitpid(greeter.process, &status, 0);
+    return isInTime && status == EXIT_SUCCESS;
 }
 
 }  // namespace
@@ -128,12 +135,10 @@ void hideSilentServices() {
         if (greeter.process < 0) {
             continue;
         }
-        if (!endsBy(deadline, greeter)) {
-            kill(greeter.process, SIGKILL);
+        if (!succeedsBy(deadline, greeter)) {
             qputenv(services[i].variable, services[i].hidden);
-            qWarning("The service of %s does not answer and is left out.", services[i].variable);
+            qWarning("The service of %s does not answer as it should and is left out.", services[i].variable);
         }
-        waitpid(greeter.process, nullptr, 0);
         close(greeter.ending);
     }
 }

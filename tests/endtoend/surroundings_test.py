@@ -3,6 +3,7 @@
 # SPDX-License-Identifier: MIT
 
 """Plays the real program where sound, screens and window managers do not behave."""
+import concurrent.futures
 import contextlib
 import os
 import pathlib
@@ -28,7 +29,9 @@ class Surroundings(Case):
         self.score += model.points(len(largest))
         return player.play(board, min(largest)), round(time.monotonic() - began, 2)
 
-    def leave(self, player):
+    def finish(self, player):
+        """Plays once more and leaves."""
+        self.play(player, player.board())
         player.process.terminate()
         self.assertEqual(player.process.wait(PATIENCE), 0)
         self.assertEqual(player.stored()["4"], str(self.score))
@@ -44,14 +47,15 @@ class Surroundings(Case):
             self.assertEqual(listener.wait(PATIENCE), 0, "it has heard something")
 
     @contextlib.contextmanager
-    def silent_server(self, desktop):
-        """A server that takes every connection and never answers."""
-        with socket.socket(socket.AF_UNIX) as server:
+    def silent_server(self, desktop, greeting=b""):
+        """A server that takes every connection, greets the first one, and never answers."""
+        with socket.socket(socket.AF_UNIX) as server, concurrent.futures.ThreadPoolExecutor() as pool:
             server.bind(str(desktop.home / "silent"))
             server.listen()
-            yield
             server.settimeout(PATIENCE)
-            server.accept()[0].close()
+            first = pool.submit(lambda: [connection := server.accept()[0], connection.send(greeting)])
+            yield
+            first.result()[0].close()
 
     def test_sounds(self):
         for name, session, device in (
@@ -66,18 +70,17 @@ class Surroundings(Case):
                 for _ in range(3):
                     board, seconds = self.play(player, board)
                     took.append(seconds)
-                self.leave(player)
+                self.finish(player)
                 print(f"{name}: seconds of the moves: {took}")
 
     def test_silent_services(self):
-        for variable, address in (("DBUS_SESSION_BUS_ADDRESS", "unix:path={}/silent"),
-                                  ("AT_SPI_BUS_ADDRESS", "unix:path={}/silent"),
-                                  ("SESSION_MANAGER", f"local/{os.uname().nodename}:{{}}/silent")):
-            with self.subTest(variable), self.desktop() as desktop, self.silent_server(desktop):
-                desktop.environment[variable] = address.format(desktop.home)
-                player = Player(desktop, PROGRAM, SETTINGS + "Son=0\n")
-                self.play(player, player.board())
-                self.leave(player)
+        for greeting in b"", b"\0\1" + bytes(6) + 20 * b"nonsense":
+            for variable, address in (("DBUS_SESSION_BUS_ADDRESS", "unix:path={}/silent"),
+                                      ("AT_SPI_BUS_ADDRESS", "unix:path={}/silent"),
+                                      ("SESSION_MANAGER", f"local/{os.uname().nodename}:{{}}/silent")):
+                with self.subTest(variable), self.desktop() as desktop, self.silent_server(desktop, greeting):
+                    desktop.environment[variable] = address.format(desktop.home)
+                    self.finish(Player(desktop, PROGRAM, SETTINGS + "Son=0\n"))
 
     def test_no_display(self):
         for broken in {"DISPLAY": ":none"}, {"QT_QPA_PLATFORM": "none"}:
@@ -95,8 +98,7 @@ class Surroundings(Case):
                 script.write_text(f"#!/bin/bash\nunset XDG_RUNTIME_DIR\nexec {PROGRAM} {stream}\n")
                 script.chmod(0o755)
                 player = Player(desktop, script, SETTINGS + "Son=1\n")
-                self.play(player, player.board())
-                self.leave(player)
+                self.finish(player)
 
     def test_sound_files(self):
         good = (pathlib.Path(__file__).resolve().parents[2] / "assets/sounds/son50.WAV").read_bytes()
@@ -111,8 +113,7 @@ class Surroundings(Case):
             with self.subTest(name), self.player(SETTINGS + "Son=1\n") as player:
                 for size in (2, 5, 10, 50, 80):
                     make(player.desktop.home / f"son{size}.WAV")
-                self.play(player, player.board())
-                self.leave(player)
+                self.finish(player)
                 heard = player.desktop.loudspeaker.exists() and any(player.desktop.loudspeaker.read_bytes())
                 self.assertEqual(heard, name in ("FIFO", "link to itself", "whole"), "heard")
 
@@ -129,8 +130,7 @@ class Surroundings(Case):
             wait_for("a board as typed", lambda: player.board_size() == (12, 15))
             player.catch_up()
             self.assertEqual(player.geometry()[:2], (50, 40))
-            self.play(player, player.board())
-            self.leave(player)
+            self.finish(player)
 
     def test_screens(self):
         for side, cells in ((1, 1), (16000, 181)):  # the largest board, with some rows less than fit

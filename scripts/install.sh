@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 . scripts/steps.sh
 
 declare -A packages=(
-    [build]='g++ cmake ninja-build pkgconf qt6-base-dev libsdl2-dev librsvg2-dev'
+    [build]='g++ cmake ninja-build make pkgconf qt6-base-dev libsdl2-dev librsvg2-dev'
     [game]='fonts-liberation x11-utils'
     [package]='dpkg-dev file'
     [wayland]='qt6-wayland wayland-utils'

@@ -4,8 +4,8 @@
 #include "platform/sound_wav.h"
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
+#include <numeric>
 #include <span>
 
 #include "platform/sound_sdl.h"
@@ -14,9 +14,17 @@ namespace platform {
 namespace {
 
 constexpr int longestSeconds = 10;
+constexpr int mostChannels = 2;
 
-/// SDL would allocate whatever length the data chunk claims, up to 4 GiB, and accept a file cut short.
-bool holdsWholeDataChunk(std::string_view file) {
+std::uint32_t littleEndian(std::string_view bytes) {
+    return std::accumulate(bytes.rbegin(), bytes.rend(), 0U, [](std::uint32_t number, char byte) {
+        return number << 8 | static_cast<unsigned char>(byte);
+    });
+}
+
+/// SDL would allocate whatever length the data chunk claims, up to 4 GiB, and accept a file cut short. Over SDL 3, it
+/// would also keep only the low byte of the number of channels.
+bool isSafeForSdl(std::string_view file) {
     constexpr std::size_t riffHeader = 12;
     constexpr std::size_t chunkHeader = 8;
     if (file.size() < riffHeader || file.substr(0, 4) != "RIFF" || file.substr(8, 4) != "WAVE") {
@@ -24,14 +32,16 @@ bool holdsWholeDataChunk(std::string_view file) {
     }
     std::string_view rest = file.substr(riffHeader);
     while (rest.size() >= chunkHeader) {
-        std::uint32_t claimed = 0;
-        std::memcpy(&claimed, rest.data() + 4, sizeof claimed);
-        const std::size_t length = SDL_SwapLE32(claimed);
-        if (rest.substr(0, 4) == "data") {
-            return length <= rest.size() - chunkHeader;
+        const std::string_view name = rest.substr(0, 4);
+        const std::size_t length = littleEndian(rest.substr(4, 4));
+        rest.remove_prefix(chunkHeader);
+        if (name == "data") {
+            return length <= rest.size();
         }
-        const std::size_t next = chunkHeader + length + length % 2;
-        rest.remove_prefix(std::min(next, rest.size()));
+        if (name == "fmt " && rest.size() >= 4 && littleEndian(rest.substr(2, 2)) > mostChannels) {
+            return false;
+        }
+        rest.remove_prefix(std::min(length + length % 2, rest.size()));
     }
     return false;
 }
@@ -41,7 +51,7 @@ Uint32 frameSize(const SDL_AudioSpec& audio) {
 }
 
 bool isPlayable(const SDL_AudioSpec& audio, Uint32 bytes) {
-    if (audio.channels < 1 || audio.channels > 2 || audio.freq < 8000 || audio.freq > 48000) {
+    if (audio.channels < 1 || audio.channels > mostChannels || audio.freq < 8000 || audio.freq > 48000) {
         return false;
     }
     return bytes / frameSize(audio) <= static_cast<Uint32>(audio.freq) * longestSeconds;
@@ -71,7 +81,7 @@ Samples convert(const SDL_AudioSpec& audio, std::span<const Uint8> bytes) {
 }  // namespace
 
 Samples decodeWav(std::string_view file) {
-    if (!holdsWholeDataChunk(file) || sdl() == nullptr) {
+    if (!isSafeForSdl(file) || sdl() == nullptr) {
         return {};
     }
     SDL_AudioSpec audio{};

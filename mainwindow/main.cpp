@@ -37,7 +37,7 @@ QIcon windowIcon() {
 
 int main(int, char* argv[]) {
     platform::prepareProcess();
-    platform::hideSilentServices();
+    platform::hideFaultyServices();
     // There is no command line: the toolkit would take options of its own from it.
     int argc = 1;
     const QApplication application(argc, argv);

@@ -73,7 +73,7 @@ bool greetSessionManager() {
 
 struct Service {
     bool (*mayBeThere)();
-    bool (*greet)();       ///< returns, when the service has answered or is not there, whether the toolkit may try it
+    bool (*greet)();       ///< waits for an answer; false if the toolkit must not try the service
     const char* variable;  ///< the environment variable with its address
     const char* hidden;    ///< a value with which the toolkit does not try
 };
@@ -98,6 +98,7 @@ Greeter greeterOf(const Service& service) {
     const pid_t process = fork();
     if (process == 0) {
         prctl(PR_SET_PDEATHSIG, SIGKILL);
+        prctl(PR_SET_DUMPABLE, 0);
         int argc = 0;
         const QCoreApplication application(argc, nullptr);
         _exit(service.greet() ? EXIT_SUCCESS : EXIT_FAILURE);
@@ -110,8 +111,8 @@ Greeter greeterOf(const Service& service) {
     return {process, ends[0]};
 }
 
-/// Waits for the process until the deadline. Returns whether it has ended by then and has not failed, as it does when
-/// what the service answers makes a library crash.
+/// Waits for the process, until the deadline at most. Returns whether it has ended by then, and neither a failure nor a
+/// crash has ended it.
 bool succeedsBy(Clock::time_point deadline, const Greeter& greeter) {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
     pollfd ending{.fd = greeter.ending, .events = POLLIN, .revents = 0};
@@ -126,7 +127,8 @@ bool succeedsBy(Clock::time_point deadline, const Greeter& greeter) {
 
 }  // namespace
 
-void hideSilentServices() {
+void hideFaultyServices() {
+    std::signal(SIGCHLD, SIG_DFL);  // a parent may have left it ignored, and then waitpid() reports no status
     std::array<Greeter, services.size()> greeters;
     std::ranges::transform(services, greeters.begin(), greeterOf);
     const auto deadline = Clock::now() + std::chrono::milliseconds(1500);
@@ -137,7 +139,7 @@ void hideSilentServices() {
         }
         if (!succeedsBy(deadline, greeter)) {
             qputenv(services[i].variable, services[i].hidden);
-            qWarning("The service of %s does not answer as it should and is left out.", services[i].variable);
+            qWarning("The service of %s cannot be used and is left out.", services[i].variable);
         }
         close(greeter.ending);
     }

@@ -5,7 +5,7 @@
 # Tries what is committed on another release of Debian, as a new user would: makes a bare system of that release from
 # the mirror of this machine, clones into it, and runs ./play and ./check there. The picture and the logs are left in
 # build/debian-RELEASE. The system ends with this script, even if that is killed: scripts/try_debian.sh trixie
-# With --dry-run behind the release, it makes no system, and only fails if none could be made.
+# With --dry-run after the release, it only checks whether such a system could be made.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=scripts/steps.sh
@@ -95,7 +95,6 @@ namespaces=(unshare --mount --pid --fork --kill-child --mount-proc)
 "${namespaces[@]}" true 2>/dev/null || fail "This machine lets nobody make namespaces, so no other system can run here."
 scripts/install.sh root
 git rev-parse --quiet --verify HEAD >/dev/null 2>&1 || fail "Git finds no commit here; run this in a clone of your own."
-git diff --quiet HEAD || say "What is not committed is left out."
 
 system=
 mkdir -p "$folder"
@@ -107,11 +106,12 @@ archive=$(apt-get indextargets 'Label: Debian' 'Component: main' | sed -n 's/^Re
 archive=${archive%%$'\n'*}
 [[ -n $archive ]] || fail "This machine's apt knows no archive of Debian; run apt-get update, then this again."
 remove_root # of a run that was killed
-rm -f "$folder"/*.{log,png}
 mkdir "$folder/tmp"
 /usr/lib/apt/apt-helper download-file "${archive%/}/dists/$release/InRelease" "$folder/tmp/InRelease" >/dev/null 2>&1 ||
     fail "There is no release '$release' in $archive, or no way to it; check the name and the network."
 [[ $# == 1 ]] || exit 0
+rm -f "$folder"/*.{log,png}
+git diff --quiet HEAD || say "What is not committed is left out."
 # Whoever starts this in the background ignores SIGINT, and so would all that runs in the system.
 setsid setpriv --pdeathsig KILL env --default-signal "${namespaces[@]}" \
     scripts/try_debian.sh "$release" inside "$archive" &

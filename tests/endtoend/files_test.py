@@ -122,7 +122,7 @@ class Files(unittest.TestCase):
             ("device", lambda ini: ini.unlink() or ini.symlink_to("/dev/zero"), pathlib.Path.is_symlink),
             ("folder", lambda ini: ini.unlink() or ini.mkdir(), pathlib.Path.is_dir),
             ("loop of links", lambda ini: ini.unlink() or ini.symlink_to(ini), pathlib.Path.is_symlink),
-            # Only root could read the file with its second mode.
+            # Only root can read a file of the mode 0222, so the test makes it readable first.
             *((oct(mode), lambda ini, mode=mode: ini.chmod(mode),
                lambda ini: ini.chmod(0o600) or ini.read_bytes() == SETTINGS) for mode in (0o444, 0o222)),
         ):

@@ -48,7 +48,7 @@ class Surroundings(Case):
 
     @contextlib.contextmanager
     def silent_server(self, desktop, greeting=b""):
-        """A server that takes every connection, greets the first one, and never answers."""
+        """A server that takes every connection, sends the greeting to the first one, and no more."""
         with socket.socket(socket.AF_UNIX) as server, concurrent.futures.ThreadPoolExecutor() as pool:
             server.bind(str(desktop.home / "silent"))
             server.listen()
@@ -74,13 +74,14 @@ class Surroundings(Case):
                 print(f"{name}: seconds of the moves: {took}")
 
     def test_silent_services(self):
-        for greeting in b"", b"\0\1" + bytes(6) + 20 * b"nonsense":
-            for variable, address in (("DBUS_SESSION_BUS_ADDRESS", "unix:path={}/silent"),
-                                      ("AT_SPI_BUS_ADDRESS", "unix:path={}/silent"),
-                                      ("SESSION_MANAGER", f"local/{os.uname().nodename}:{{}}/silent")):
-                with self.subTest(variable), self.desktop() as desktop, self.silent_server(desktop, greeting):
-                    desktop.environment[variable] = address.format(desktop.home)
-                    self.finish(Player(desktop, PROGRAM, SETTINGS + "Son=0\n"))
+        manager = f"local/{os.uname().nodename}:{{}}/silent"
+        for variable, address, greeting in (("DBUS_SESSION_BUS_ADDRESS", "unix:path={}/silent", b""),
+                                            ("AT_SPI_BUS_ADDRESS", "unix:path={}/silent", b""),
+                                            ("SESSION_MANAGER", manager, b""),
+                                            ("SESSION_MANAGER", manager, b"\0\1" + bytes(6) + 20 * b"nonsense")):
+            with self.subTest((variable, greeting)), self.desktop() as desktop, self.silent_server(desktop, greeting):
+                desktop.environment[variable] = address.format(desktop.home)
+                self.finish(Player(desktop, PROGRAM, SETTINGS + "Son=0\n"))
 
     def test_no_display(self):
         for broken in {"DISPLAY": ":none"}, {"QT_QPA_PLATFORM": "none"}:

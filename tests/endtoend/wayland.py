@@ -31,8 +31,8 @@ class WaylandPlayer(Player):
         for corner in ((width - 1, height - 1), (0, 0)) * 3:
             desktop.xdotool("mousemove", *corner)
             time.sleep(0.1)
-        # The graphics driver leaks on some processors and is unloaded before the leak checker looks. Only a full stack
-        # shows the checker the library that had loaded the driver, and this one is in leaks.supp.
+        # On some processors the graphics driver leaks, and it is unloaded before the leak checker looks. So leaks.supp
+        # names the library that loaded it, which only a full stack shows.
         desktop.environment |= {"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": "screen",
                                 "ASAN_OPTIONS": "fast_unwind_on_malloc=0"}
         super().__init__(desktop, program, settings)

@@ -31,7 +31,7 @@ QRect boardArea(const rules::Board& board) {
 }
 
 std::optional<rules::CellIndex> cellAt(const rules::Board& board, QPoint point) {
-    const QRect cell = cellsTouching(board, {point, QSize(1, 1)});
+    const QRect cell = cellsTouching(board, {point, point});
     if (cell.isEmpty()) {
         return std::nullopt;
     }

@@ -8,7 +8,7 @@
 namespace rules {
 namespace {
 
-bool standsForCell(char character) {
+bool isCellCode(char character) {
     const auto code = static_cast<Code>(character);
     return code == Code::none || std::ranges::find(codes, code) != codes.end();
 }
@@ -51,7 +51,7 @@ std::optional<Board> parse(std::string_view text) {
     }
     Board board = emptyBoard(static_cast<int>(lines[0].size()), static_cast<int>(lines.size()));
     for (std::size_t row = 0; row < lines.size(); ++row) {
-        if (lines[row].size() != lines[0].size() || !std::ranges::all_of(lines[row], standsForCell)) {
+        if (lines[row].size() != lines[0].size() || !std::ranges::all_of(lines[row], isCellCode)) {
             return std::nullopt;
         }
         for (std::size_t col = 0; col < lines[row].size(); ++col) {

@@ -13,8 +13,8 @@
 
 namespace rules {
 
-/// What a cell holds: a ball's colour code, or nothing. The value is the character that stands for it in the
-/// text form of a board.
+/// The content of a cell: the colour code of its ball, or none. The value is the character for it in the text form of a
+/// board.
 enum class Code : char {
     none = '.',
     red = 'r',
@@ -28,9 +28,12 @@ enum class Code : char {
 /// The colours in the order in which a deal hands them out.
 inline constexpr std::array codes{Code::red, Code::blue, Code::green, Code::yellow, Code::magenta, Code::grey};
 
+/// The number of levels: level 0 has two colours, the last one has all of them.
+inline constexpr int levels = codes.size() - 1;
+
 using CellIndex = std::int16_t;
 
-/// The most cells that a board may have: indices and counters are 16-bit.
+/// The largest number of cells of a board: indices and counters are 16-bit.
 inline constexpr int maxCells = INT16_MAX;
 
 struct Position {
@@ -38,8 +41,8 @@ struct Position {
     int row;
 };
 
-/// The grid of cells, numbered from 0 column by column: column 0 at the left, row 0 at the top, the cell
-/// below cell i is i + 1 and the cell to its right i + NbLig.
+/// The grid of cells, numbered from 0 column by column: column 0 is at the left, row 0 at the top. The cell below cell
+/// i is i + 1, the cell to its right is i + NbLig.
 struct Board {
     int NbCol = 0;
     int NbLig = 0;
@@ -51,17 +54,17 @@ struct Board {
 
     /// Whether i is the index of a cell of this board.
     bool contains(int i) const { return i >= 0 && i < NbCol * NbLig; }
-    /// The cell that stands there; p must lie on this board.
+    /// The index of the cell at p, which must be on this board.
     CellIndex indexOf(Position p) const { return static_cast<CellIndex>(p.col * NbLig + p.row); }
-    /// Where cell i stands; i must be a cell of this board.
+    /// The position of cell i, which must be a cell of this board.
     Position positionOf(CellIndex i) const { return {i / NbLig, i % NbLig}; }
 };
 
-/// A board without balls. Counts below one are taken as one; a product above maxCells must be kept away by
-/// the caller.
+/// A board without balls. A count below one is raised to one. The caller makes sure that the product is at most
+/// maxCells.
 Board emptyBoard(int NbCol, int NbLig);
 
-/// Calls visit(index) for each neighbour of cell i that exists, in the order above, below, left, right.
+/// Calls visit(index) for each existing neighbour of cell i, in the order above, below, left, right.
 template <typename Visit>
 void forEachNeighbour(const Board& board, CellIndex i, Visit visit) {
     const auto [col, row] = board.positionOf(i);
@@ -83,8 +86,8 @@ void forEachNeighbour(const Board& board, CellIndex i, Visit visit) {
 /// The board as text, one character per cell and one line per row, top row first.
 std::string print(const Board& board);
 
-/// The board that a text shows, as print() writes it; nothing if lines differ in length, a character stands
-/// for no cell, or there are no cells or too many. A final line break may be missing.
+/// Reads a board from the text form that print() writes; the last line break may be missing. Returns nothing if the
+/// lines differ in length, a character is no cell code, or there are no cells or more than maxCells.
 std::optional<Board> parse(std::string_view text);
 
 }  // namespace rules

@@ -8,13 +8,12 @@
 
 namespace rules {
 
-/// Gives the game an empty board of this size; `Total` becomes its number of cells. Sizes as for
-/// emptyBoard().
+/// Gives the game an empty board of this size and sets `Total` to its number of cells. Sizes as for emptyBoard().
 void resizeBoard(Game& game, int NbCol, int NbLig);
 
-/// Starts a game of level Diff (0 to 4, clamped) on the board as sized: every cell gets a ball, the colours
-/// are handed out in turn, and each ball lands on the first free cell at or after a drawn one, going round
-/// from the last cell to the first. The score becomes 0. Takes one draw a ball.
-void deal(Game& game, int Diff, const Draw& draw);
+/// Starts a game of level Diff (clamped to the existing levels) on the current board, with score 0. Hands the colours
+/// out in turn, one ball per cell. Each ball takes one random number for a cell; if that cell is filled, the ball goes
+/// to the next free cell, and after the last cell comes the first.
+void deal(Game& game, int Diff, const RandomSource& random);
 
 }  // namespace rules

@@ -9,15 +9,15 @@
 
 namespace rules {
 
-/// The whole state of one game. Between moves `Total` is the number of balls on the board, every column is
-/// stacked on the bottom row, and the columns that hold balls are packed to the left.
+/// The whole state of one game. Between moves, `Total` is the number of balls on the board, the balls of every column
+/// are stacked on the bottom row, and the columns that hold balls are packed to the left.
 struct Game {
     Board board;
     std::int16_t Total = 0;     ///< balls still on the board
-    std::int16_t NBBoules = 0;  ///< balls dealt, which is the number of cells
+    std::int16_t NBBoules = 0;  ///< balls dealt, equal to the number of cells
     std::int16_t NbCoul = 0;    ///< colours of this game, 2 to 6
     std::int16_t Diff = 0;      ///< level of this game, 0 to 4: the key of its best score
-    std::int64_t score = 0;     ///< shown as the text of the label `sc`
+    std::int64_t score = 0;     ///< the label `sc` shows it
 };
 
 }  // namespace rules

@@ -9,26 +9,26 @@
 
 namespace rules {
 
-/// What a move asks of the surroundings it is played in. The calls come in the order in which the player is
-/// to see and hear their effects; the game's state already holds what each of them tells.
+/// The callbacks of a move. They come in the order in which the player sees and hears their effects; the game's state
+/// is already changed when a callback reports a change.
 struct Host {
     virtual ~Host() = default;
 
     /// Cell i has lost its ball.
     virtual void cellCleared(CellIndex i) = 0;
-    /// One ball of the group is gone: time to let the player see it.
+    /// Called after each ball that is removed, so that the player can see it vanish.
     virtual void yield() = 0;
-    /// The score has a new value.
+    /// The score has changed.
     virtual void scoreChanged() = 0;
     /// The status line about the last move has a new text (UTF-8).
     virtual void lastMoveChanged(std::string_view text) = 0;
     /// The status line about the balls left has a new text (UTF-8).
     virtual void remainingChanged(std::string_view text) = 0;
     /// Plays this sound file to its end.
-    virtual void playWave(std::string_view file) = 0;
-    /// The balls have fallen and the columns closed up: any cell may have changed.
+    virtual void PlayWave(std::string_view file) = 0;
+    /// The balls have fallen and the columns have closed up: any cell may have changed.
     virtual void boardSettled() = 0;
-    /// The game has ended; returns at once.
+    /// The game has ended. Returns at once.
     virtual void gameEnded() = 0;
 
   protected:

@@ -3,8 +3,10 @@
 
 #include "rules/move.h"
 
-#include "rules/outcome.h"
+#include "rules/points.h"
 #include "rules/settle.h"
+#include "rules/sound_choice.h"
+#include "rules/status_lines.h"
 
 namespace rules {
 
@@ -22,9 +24,8 @@ bool isGroup(const Board& board, int i) {
 }
 
 void efface(Board& board, CellIndex K, Code t, int& S, Host& host) {
-    // The balls still to visit, the next one on top: pushed in reverse and looked at again when taken, they
-    // come in the order of a recursion, which a group of thousands of balls would drive through the bottom of
-    // the stack.
+    // A recursion over thousands of balls would overflow the call stack. Neighbours are pushed in reverse order and
+    // tested again when they are popped, which gives the order of the recursion.
     std::vector<CellIndex> pending{K};
     while (!pending.empty()) {
         const CellIndex cell = pending.back();
@@ -61,7 +62,7 @@ void playMove(Game& game, int i, Host& host) {
     game.score += pointsFor(S);
     host.scoreChanged();
     host.lastMoveChanged(lastMoveText(S));
-    host.playWave(soundFor(S));
+    host.PlayWave(soundFor(S));
 
     game.Total = static_cast<std::int16_t>(game.Total - S);
     host.remainingChanged(remainingText(game.Total, game.NBBoules));

@@ -8,11 +8,11 @@
 
 namespace rules {
 
-/// One random number, uniform in [0, 1).
-using Draw = std::function<float()>;
+/// Returns the next random number, uniform in [0, 1).
+using RandomSource = std::function<float()>;
 
-/// The game's generator (SplitMix64). Algorithm and distribution are our own, so that a seed means the same
-/// board with every compiler and library, for ever.
+/// The game's generator (SplitMix64). Algorithm and distribution are our own, so that a seed gives the same board with
+/// every compiler and library.
 class Random {
   public:
     explicit Random(std::uint64_t seed) : state(seed) {}
@@ -24,7 +24,7 @@ class Random {
     std::uint64_t state;
 };
 
-/// A seed taken from the clocks, another one at every call.
+/// A seed from the clocks, different at every call.
 std::uint64_t seedFromClock();
 
 }  // namespace rules

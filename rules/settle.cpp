@@ -11,7 +11,7 @@ void settle(Board& board) {
     const auto height = static_cast<std::ptrdiff_t>(board.NbLig);
     auto target = board.cells.begin();
     for (auto column = board.cells.begin(); column != board.cells.end(); column += height) {
-        // Bottom up, so that a column may settle onto itself: nothing is overwritten before it was read.
+        // Source and target may be the same column: from the bottom up, no ball is overwritten before it is read.
         auto landing = target + height;
         for (auto cell = column + height; cell != column;) {
             if (*--cell != Code::none) {

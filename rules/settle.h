@@ -7,8 +7,8 @@
 
 namespace rules {
 
-/// Lets the balls fall within their columns and closes up empty columns toward the left, in one sweep. The
-/// order of the balls in a column and of the columns that hold balls stays.
+/// Lets the balls fall within their columns and closes up empty columns toward the left, in one sweep. The balls of a
+/// column keep their order, and so do the columns.
 ///
 ///     r.b.      ....
 ///     ..v.  ->  b...

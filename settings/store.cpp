@@ -8,9 +8,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "settings/file.h"
-#include "settings/inifile.h"
+#include "settings/ini_file.h"
 #include "settings/number.h"
+#include "settings/safe_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -68,7 +68,7 @@ void Store::reset(const QString& section, const QString& key) {
 }
 
 void Store::flush() {
-    // Whatever was waited for before: without the lock, this copy and another one may undo each other's save.
+    // Wait up to 200 ms even if patience is spent: two copies that save without the lock can undo each other.
     patience = std::max<std::chrono::nanoseconds>(patience, std::chrono::milliseconds(200));
     save(Locking::attempted);
 }
@@ -86,13 +86,13 @@ Store::Stored Store::stored() const {
             file.bytes};
 }
 
-/// The text that the key has once the change is saved over what is stored.
+/// The text of the key after the change is saved.
 QString Store::standing(const Stored& stored, const Name& name, const Change& change) {
     const bool isLate = change.base && *change.base != stored.file;
     if (change.kind == Change::Kind::write || (change.kind == Change::Kind::reset && !isLate)) {
         return change.text;
     }
-    // A reset that came too late is a raise to what was scored since.
+    // A late reset must keep scores stored since it was asked for.
     const std::optional<QString> current = valueIn(stored.settings, name.first, name.second);
     return current ? raised(*current, change.text) : change.text;
 }
@@ -104,7 +104,7 @@ void Store::save(Locking locking) {
     makeFolder(QFileInfo(path).path());
     QFile lockFile(path + lockSuffix);
     const Lock lockState = lock(lockFile, patience);
-    // If the lock is impossible, waiting for it would only put off the save until a kill may lose it.
+    // If there can be no lock, save at once: a later save could be lost by a kill.
     if (lockState == Lock::heldByAnother && locking == Locking::required) {
         return;
     }
@@ -122,7 +122,7 @@ void Store::save(Locking locking) {
             unsavable.emplace(name, change);
         }
     }
-    // After a failed sync all is written again: a second sync of the same bytes may succeed without writing them.
+    // After a failed sync, write everything again: another sync could succeed without having written the bytes.
     if (settings != old.file || !isOnDisk) {
         if (lockState == Lock::held) {
             removeLeftovers(path);
@@ -137,9 +137,9 @@ void Store::save(Locking locking) {
     unsaved = std::move(unsavable);
 }
 
-/// Puts the settings in the place of what is stored. At every moment one of the file and its backup is whole.
+/// Replaces the stored settings. At every moment the file or its backup is complete.
 bool Store::replace(const Stored& old, const QByteArray& settings) const {
-    // An empty file has nothing to keep, and neither has a stopped write in place, whose bytes are in the backup.
+    // An empty file needs no copy, and neither does a write in place that was killed: its bytes are in the backup.
     const bool isRejected = old.file != old.settings && !unfinished(old.settings).startsWith(old.file);
     if (isRejected && replaceFile(path + rejectedSuffix, old.file) != Replaced::yes) {
         return false;
@@ -151,8 +151,7 @@ bool Store::replace(const Stored& old, const QByteArray& settings) const {
     if (replaced == Replaced::no) {
         return false;
     }
-    // The file is safe on the disk by now: the copy, against damage by others, need neither succeed nor be
-    // waited for.
+    // The file is now safe on the disk. The copy guards against damage by other programs; it may fail.
     replaceCopy(path + backupSuffix, settings);
     return true;
 }

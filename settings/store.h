@@ -13,17 +13,16 @@
 
 namespace settings {
 
-/// The per-user settings: texts by section and key in one file, shared with other running copies of the
-/// program.
+/// The per-user settings: texts by section and key, in one file that running copies of the program share.
 ///
-/// Every change is saved at once, together with all that could not be saved before; `read` shows it in any
-/// case. Nothing is ever written over a file that cannot be read. A file that is no settings file is copied
-/// to `<path>.bad` before the first save; until then, the values come from `<path>.bak`, which holds what was
-/// last saved. A file that cannot be renamed over is written in place after `<path>.bak`. No call reports a failure.
-/// All of them together wait at most `longestWait` for other copies, and closing a fifth of a second more.
+/// Every change is saved at once, together with earlier changes that could not be saved; `read` returns it in any case.
+/// A file that cannot be read is never written over. A file that is no settings file is copied to `<path>.bad` before
+/// the first save; until then, the values come from `<path>.bak`, a copy of the last save. A file that is a mount point
+/// is written in place, after `<path>.bak`. No function reports a failure. All calls together wait at most
+/// `longestWait` for other copies, and closing waits 200 ms more.
 class Store {
   public:
-    /// A store in this file; in memory only if the path is empty. Nothing is read or created yet.
+    /// A store in this file, or only in memory if the path is empty. Reads and creates nothing yet.
     explicit Store(QString iniPath, std::chrono::nanoseconds longestWait = std::chrono::seconds(1));
 
     /// The text of the key, or the fallback if it is absent or the file cannot be read.
@@ -32,15 +31,15 @@ class Store {
     /// Sets the text of the key, creating the key if needed.
     void write(const QString& section, const QString& key, const QString& text);
 
-    /// Sets the key to the text of a number unless it holds a number that is as high. Returns the text that
-    /// it then has.
+    /// Sets the key to the text of a number, unless it already holds a number at least as high. Returns the resulting
+    /// text.
     QString raise(const QString& section, const QString& key, const QString& text);
 
-    /// Sets the key to "0", whatever it holds. If that cannot be saved at once and another program changes
-    /// the file meanwhile, it is forgotten.
+    /// Sets the key to "0". If that cannot be saved at once and another program changes the file before it is saved,
+    /// the stored number stays.
     void reset(const QString& section, const QString& key);
 
-    /// To be called at closing: saves what could not be saved before, even without the lock.
+    /// Saves what could not be saved before, even without the lock. Call it when the program closes.
     void flush();
 
   private:
@@ -50,13 +49,14 @@ class Store {
         enum class Kind { write, raise, reset };
         Kind kind = Kind::write;
         QString text;
-        std::optional<QByteArray> base = {};  // of a reset that could not be saved: the file then, if it was readable
+        std::optional<QByteArray> base =
+            {};  // for a reset still unsaved: the bytes of the file when it was asked for, if readable
     };
 
     struct Stored {
         bool available = false;  // whether it may be written over
         QByteArray settings;
-        QByteArray file;  // the bytes at the path: other than the settings if they are no settings file
+        QByteArray file;  // the bytes at the path; they differ from the settings if they are no settings file
     };
 
     enum class Locking { required, attempted };
@@ -68,12 +68,12 @@ class Store {
 
     QString path;
     std::map<Name, Change> unsaved;
-    bool isOnDisk = true;  // false after a failed save: even if the file holds its bytes, a power cut may undo them
+    bool isOnDisk = true;  // false after a failed save, whose bytes may be in the file but not on the disk
     std::chrono::nanoseconds patience;
 };
 
-/// Where the settings of the program with this executable lie: `<its base name>.ini` in `$XDG_CONFIG_HOME`
-/// or, if that is not an absolute path, in `~/.config`. Empty without a home folder.
+/// The path of the settings file of an executable: `<its base name>.ini` in `$XDG_CONFIG_HOME` or, if that is not an
+/// absolute path, in `~/.config`. Empty without a home folder.
 QString defaultPath(const QString& executable);
 
 }  // namespace settings

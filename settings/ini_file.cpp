@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "settings/inifile.h"
+#include "settings/ini_file.h"
 
 #include <QStringView>
 
@@ -17,7 +17,7 @@ struct Line {
     enum class Kind { other, comment, section, entry };
     Kind kind = Kind::other;
     qsizetype begin = 0;
-    qsizetype end = 0;  // behind the line break
+    qsizetype end = 0;  // after the line break
     QString name;       // of the section or key
     QString text;       // of an entry
 };
@@ -88,8 +88,8 @@ Line lineAt(const QByteArray& file, qsizetype begin) {
 
 struct Place {
     std::optional<Line> entry;            // the line that holds the key
-    std::optional<qsizetype> sectionEnd;  // where the section takes a further line
-    bool anyReadable = false;             // whether some line of the file makes sense
+    std::optional<qsizetype> sectionEnd;  // where a new line of the section is inserted
+    bool anyReadable = false;             // whether the file has a section, a key or a comment
 };
 
 Place placeOf(const QByteArray& file, const QString& section, const QString& key) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "settings/file.h"
+#include "settings/safe_file.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -36,7 +36,7 @@ bool isTemporaryName(std::string_view name, std::string_view original) {
            name[original.size()] == '.' && name.ends_with(temporarySuffix);
 }
 
-/// Where a symbolic link leads to in the end, even if nothing is there; any other path is its own target.
+/// The end of a chain of symbolic links, even if no file is there; the path itself if it is no link.
 QString targetOf(const QString& path) {
     const QFileInfo file(path);
     if (!file.isSymLink()) {
@@ -45,7 +45,7 @@ QString targetOf(const QString& path) {
     return file.exists() ? file.canonicalFilePath() : file.symLinkTarget();
 }
 
-/// A file that is removed again unless it is moved in the place of the other one.
+/// A new file that replaces the file at `path`, or is removed if move() does not succeed.
 struct Replacement : QTemporaryFile {
     explicit Replacement(const QString& path)
         : QTemporaryFile(path + u".XXXXXX"_s + QLatin1StringView(temporarySuffix)), place(QFile::encodeName(path)) {}
@@ -60,9 +60,9 @@ struct Replacement : QTemporaryFile {
     QByteArray place;
 };
 
-/// Whether a call that sets a mode or syncs succeeded or is not possible on this file system: a save goes on without
-/// it. Any other error, such as EIO, means that the disk may not hold the bytes. So does EROFS: fsync() reports it when
-/// a damaged file system has become read-only.
+/// Whether a call that sets a mode or syncs succeeded, or is not possible on this file system, so that a save continues
+/// without it. Any other error, such as EIO, means that the disk may not hold the bytes. So does EROFS: fsync() reports
+/// it when a damaged file system has become read-only.
 bool succeededOrUnsupported(int result) {
     return result == 0 || errno == EACCES || errno == EPERM || errno == EINVAL || errno == ENOSYS ||
            errno == EOPNOTSUPP;
@@ -86,7 +86,7 @@ FileContent readFile(const QString& path) {
     if (stat(name.constData(), &status) != 0) {
         return {errno == ENOENT ? FileContent::State::missing : FileContent::State::unavailable, {}};
     }
-    // Opening is not free of effects on what is no regular file: a FIFO would let its writer go on.
+    // Opening another kind of file has effects: it would wake the writer of a FIFO.
     if (!S_ISREG(status.st_mode)) {
         return {};
     }
@@ -95,7 +95,7 @@ FileContent readFile(const QString& path) {
     if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)) {
         return {};
     }
-    // Another copy may have put its file here meanwhile: the size is that of the one that is open.
+    // Another copy may have replaced the file since stat(): only the size of the open file counts.
     if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > maxFileSize) {
         return {};
     }
@@ -139,7 +139,7 @@ Replaced replaceFile(const QString& path, const QByteArray& bytes) {
 
 bool overwriteFile(const QString& path, const QByteArray& bytes) {
     QFile file(path);
-    // The disk may write in any order between two syncs. The first byte comes last: it makes the others valid.
+    // Between two syncs the disk may write in any order. The first byte makes the file valid, so it is written last.
     const auto isSynced = [&] { return succeededOrUnsupported(fsync(file.handle())); };
     return file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered) && isSynced() &&
            file.write(unfinished(bytes)) == bytes.size() && isSynced() && file.seek(0) &&
@@ -158,7 +158,7 @@ bool replaceCopy(const QString& path, const QByteArray& bytes) {
 void removeLeftovers(const QString& path) {
     std::error_code error;
     const std::filesystem::path file = QFile::encodeName(targetOf(path)).toStdString();
-    // Not QDir, which looks at each file of what may be a large folder.
+    // Not with QDir, which calls stat() on every file of the folder.
     std::filesystem::directory_iterator entry(file.parent_path(), error);
     for (; entry != end(entry); entry.increment(error)) {
         if (isTemporaryName(entry->path().filename().native(), file.filename().native()) &&

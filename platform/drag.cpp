@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 namespace platform {
 namespace {
 
-// The window follows by our own hand: a system move of X11 that was begun with the middle or right button does not
-// end at its release.
+// Moves the window itself, because on X11 a system move that begins with the middle or right button does not end at the
+// release of that button.
 class Drag : public QObject {
   public:
     Drag(QWidget& pressed, const QMouseEvent& press)
@@ -22,12 +22,13 @@ class Drag : public QObject {
           control(pressed),
           button(press.button()),
           grip(press.globalPosition().toPoint() - pressed.window()->pos()) {
-        // Not on the control: the press may still be on its way through the filters there.
+        // On the application, because the press may still be on its way through the control's own filters, and because
+        // a child of the window may receive the mouse.
         qApp->installEventFilter(this);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched != &control) {
+        if (!watched->isWidgetType() || static_cast<QWidget*>(watched)->window() != control.window()) {
             return QObject::eventFilter(watched, event);
         }
         switch (event->type()) {
@@ -52,7 +53,7 @@ class Drag : public QObject {
     }
 
   private:
-    // If not, the release went elsewhere.
+    // False if the release of the drag's button never reached us.
     bool isHeldAt(const QMouseEvent& press) const {
         return press.button() != button && press.buttons().testFlag(button);
     }
@@ -62,7 +63,7 @@ class Drag : public QObject {
         if (released || mouse.buttons().testFlag(button)) {
             control.window()->move(mouse.globalPosition().toPoint() - grip);
         }
-        // A release that went elsewhere shows in the next move.
+        // The next move shows that the release never reached us.
         if (!mouse.buttons().testFlag(button)) {
             end();
         }
@@ -75,7 +76,7 @@ class Drag : public QObject {
 
     QWidget& control;
     Qt::MouseButton button;
-    QPoint grip;  // the pointer's place inside the window, in pixels
+    QPoint grip;  // the pointer inside the window, in pixels
 };
 
 }  // namespace

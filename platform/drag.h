@@ -8,8 +8,8 @@ class QWidget;
 
 namespace platform {
 
-/// Moves the window of a control with the pointer, from a press on the control until that button is released. The
-/// control hears nothing of the mouse meanwhile. On Wayland the compositor moves the window.
+/// Moves the window of a control with the pointer, from a press on the control until the release of that button. During
+/// the drag, no control of the window receives the mouse. On Wayland the compositor moves the window.
 void dragWindow(QWidget& control, const QMouseEvent& press);
 
 }  // namespace platform

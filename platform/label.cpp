@@ -14,15 +14,15 @@
 namespace platform {
 namespace {
 
-// Where the text goes: letters that would end below the label are centred, and lose nothing but blank rows.
+// A line whose letters would end below the label is centred: only blank rows are then cut off.
 Qt::Alignment alignmentFor(const QLabel& label, const QFontMetrics& metrics) {
     const bool whole = metrics.ascent() + metrics.tightBoundingRect(label.text()).bottom() < label.height();
     return whole ? label.alignment() : (label.alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
 }
 
-constexpr int roomBelow = 3;  // pixels below a label in which excess letters are looked for
+constexpr int roomBelow = 3;  // pixels below a label in which letters may end
 
-// How many rows of a clear image there are down to the last one that is not blank.
+// The number of rows from the top to the last row that is not blank, in an image on a transparent ground.
 int rowsWithInk(const QImage& image) {
     int rows = image.height();
     const auto isBlank = [&](int row) {
@@ -44,7 +44,7 @@ QFont condensed(QFont font, const QString& text, int width) {
         font.setStretch(stretch);
         return QFontMetrics(font).horizontalAdvance(text);
     };
-    // Hinted letters do not shrink evenly, so the proportion is only near the answer.
+    // Hinted letters do not shrink evenly, so the proportion is only a first guess.
     const int proportion = QFont::Unstretched * width / std::max(widthAt(QFont::Unstretched), 1);
     int stretch = std::clamp<int>(proportion, narrowest, QFont::Unstretched);
     while (widthAt(stretch) > width && stretch > narrowest) {
@@ -74,8 +74,8 @@ void Label::paintEvent(QPaintEvent*) {
     painter.draw({}, drawn);
 }
 
-// Letters drawn finer may reach further down than the metrics of the layout tell; the label's top has blank rows to
-// give.
+// At finer scales letters can extend below their metrics; the text is then drawn that much higher, into the blank rows
+// at the top.
 QPixmap Label::draw() const {
     const QImage image = draw(0);
     const int excess = rowsWithInk(image) - drawnAs.size.height();
@@ -90,12 +90,16 @@ QImage Label::draw(int raisedBy) const {
     painter.scale(drawnAs.ratio, drawnAs.ratio);
     painter.setPen(drawnAs.colour);
     painter.setFont(drawnAs.font);
-    wordWrap() ? drawParagraph(painter) : drawLine(painter);
+    if (wordWrap()) {
+        drawParagraph(painter);
+    } else {
+        drawLine(painter);
+    }
     return image;
 }
 
 void Label::drawParagraph(QPainter& painter) const {
-    // Room for a line that begins with the one letter that reaches out of its place.
+    // Leaves space for a line that begins with j, the only letter that extends to the left of its origin.
     const int overhang = std::max(0, -painter.fontMetrics().leftBearing(u'j'));
     painter.drawText(rect().adjusted(overhang, 0, -overhang, 0), static_cast<int>(alignment()) | Qt::TextWordWrap,
                      text());

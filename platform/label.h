@@ -7,32 +7,31 @@
 
 namespace platform {
 
-/// The font, condensed just enough for a line of text to be no wider than so many pixels. Letters stay at least
-/// half as wide as they are.
+/// The font, condensed just enough for a line of text to fit a width in pixels, but to no less than half its width.
 QFont condensed(QFont font, const QString& text, int width);
 
-/// A text that is never clipped: a line too wide for the label is condensed, and one too high for it is centred.
-/// All this is seen to when the label is painted, so that no font is loaded before the window is on screen.
+/// A text that is never clipped: a line that is too wide is condensed, a line that is too high is centred. Everything
+/// happens when the label is painted, so that no font is loaded before the window is on the screen.
 class Label : public QLabel {
     Q_OBJECT
 
   public:
     using QLabel::QLabel;
 
-    /// Lets the label take the size of its text.
+    /// Whether the label takes the size of its text.
     void setSizedToText(bool sized);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    /// All that the look of a text depends on.
+    /// Everything on which the pixels of the text depend.
     struct Look {
         QString text;
         QFont font;
         QColor colour;
-        QSize size;    ///< pixels of the screen
-        double ratio;  ///< device pixels to a pixel
+        QSize size;    ///< screen pixels
+        double ratio;  ///< screen pixels to a layout pixel
         bool operator==(const Look&) const = default;
     };
 
@@ -42,7 +41,7 @@ class Label : public QLabel {
     void drawLine(QPainter& painter) const;
 
     bool sizedToText = false;
-    // The text as it was drawn last: laying it out anew would be most of the work while balls move behind it.
+    // The text as it was last drawn. While balls move behind it, drawing it again would be most of the work.
     QPixmap drawn;
     Look drawnAs{};
 };

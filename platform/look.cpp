@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace platform {
 namespace {
 
-// Fusion with the gap between indicator and text that the options' widths leave room for.
+// Fusion, with a gap between indicator and text that fits the width of the options.
 class Style : public QProxyStyle {
   public:
     Style() : QProxyStyle(u"fusion"_s) {}

@@ -8,17 +8,17 @@
 
 namespace platform {
 
-/// The steel blue of windows, panels and buttons.
+/// The background colour of windows, panels and buttons.
 inline constexpr QRgb steelBlue = qRgb(128, 160, 192);
 
 /// Sizes of the windows' fonts, in pixels.
 enum class FontSize { small = 11, medium = 16, large = 32 };
 
-/// The windows' font. Liberation Sans is the one that the layout's widths hold; pixels keep a session's font
-/// settings out.
+/// The windows' font, Liberation Sans, for whose widths the layout was made. Its size is in pixels, so that the font
+/// settings of the desktop do not change it.
 QFont uiFont(FontSize size = FontSize::small, QFont::Weight weight = QFont::Normal);
 
-/// Gives the program one look on every desktop: style, palette and fonts.
+/// Sets style, palette and fonts, the same on every desktop.
 void applyLook();
 
 }  // namespace platform

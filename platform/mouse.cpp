@@ -12,7 +12,7 @@
 namespace platform {
 namespace {
 
-// Calls a function with every event of a control before the control handles it.
+// Calls a function with each event of a control before the control handles it.
 template <typename Function>
 class Listener : public QObject {
   public:

@@ -12,16 +12,16 @@ class QWidget;
 
 namespace platform {
 
-/// The pixel of the layout that the mouse is on; on a finer screen it is on a part of one.
+/// The layout pixel under the mouse. At a finer scale it contains several screen pixels.
 QPoint pixelUnder(const QMouseEvent& event);
 
-/// Runs an action at each press on a control, with any button.
+/// Runs an action at each press of any mouse button on a control.
 void onPress(QWidget& control, std::function<void(const QMouseEvent&)> action);
 
 /// Runs an action each time the mouse moves over a control.
 void onMove(QWidget& control, std::function<void()> action);
 
-/// Runs an action at each click on a control: the left button pressed and released over it.
+/// Runs an action at each click on a control: the left button is pressed and released on it.
 void onClick(QWidget& control, std::function<void()> action);
 
 }  // namespace platform

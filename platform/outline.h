@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// The outline of a rectangle, a pixel wide, in the text colour. It lets the mouse through to what lies under it.
+/// The outline of a rectangle, one pixel wide, in the text colour. The mouse reaches the control under it.
 class Outline : public QWidget {
     Q_OBJECT
 

@@ -3,19 +3,59 @@
 
 #include "platform/picture.h"
 
-#include "platform/pixel_painter.h"
-#include "platform/twips.h"
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include <QPainter>
 
 namespace platform {
 
-QRect Picture::area() const {
-    return {QPoint(toPixels(Left), toPixels(Top)), image.size()};
+struct Picture::Rendered {
+    QPixmap natural;
+    Renderer render;
+    std::vector<QPixmap> others;  // at other sizes, the newest at the end
+};
+
+Picture::Picture(const QPixmap& natural, Renderer renderer)
+    : shared(std::make_shared<Rendered>(Rendered{natural, std::move(renderer), {}})) {}
+
+QSize Picture::size() const {
+    return shared == nullptr ? QSize() : shared->natural.size();
 }
 
-void draw(PixelPainter& painter, const Picture& picture) {
-    if (picture.Visible && !picture.image.size().isEmpty()) {
-        painter.draw(picture.area().topLeft(), picture.image);
+QPixmap Picture::inPixels(QSize pixels) const {
+    if (shared == nullptr || pixels.isEmpty()) {
+        return {};
     }
+    if (pixels == size()) {
+        return shared->natural;
+    }
+    auto& others = shared->others;
+    const auto found = std::ranges::find(others, pixels, &QPixmap::size);
+    if (found != others.end()) {
+        return *found;
+    }
+    // Rounding leads to at most four sizes at one scale. Sizes of an earlier scale are no longer needed.
+    constexpr std::size_t most = 4;
+    if (others.size() == most) {
+        others.erase(others.begin());
+    }
+    const QImage image = shared->render(pixels);
+    others.push_back(image.isNull() ? shared->natural.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                    : QPixmap::fromImage(image));
+    return others.back();
+}
+
+Picture Picture::on(const QColor& ground) const {
+    const auto compose = [ground](const QPixmap& picture) {
+        QPixmap opaque(picture.size());
+        opaque.fill(ground);
+        QPainter(&opaque).drawPixmap(0, 0, picture);
+        return opaque;
+    };
+    return {compose(inPixels(size())),
+            [original = *this, compose](QSize pixels) { return compose(original.inPixels(pixels)).toImage(); }};
 }
 
 }  // namespace platform

@@ -3,26 +3,39 @@
 
 #pragma once
 
-#include <QRect>
+#include <functional>
+#include <memory>
 
-#include "platform/artwork.h"
+#include <QPixmap>
 
 namespace platform {
 
-class PixelPainter;
+/// A picture that is sharp at every scale: its file at its natural size, a rendering of its vector source at every
+/// other size. Copies share what was rendered.
+class Picture {
+  public:
+    /// Renders the picture at a size in device pixels; returns a null image if it cannot.
+    using Renderer = std::function<QImage(QSize pixels)>;
 
-/// A picture control that its window paints: an element of a control array too large for widgets of its own.
-struct Picture {
-    int Left = 0;  ///< twips, inside the window
-    int Top = 0;   ///< twips, inside the window
-    bool Visible = false;
-    Artwork image;
+    /// No picture.
+    Picture() = default;
+    Picture(const QPixmap& natural, Renderer renderer);
 
-    /// The area it covers, in pixels: the natural size of its image.
-    QRect area() const;
+    /// The natural size, in pixels; empty if there is no picture.
+    QSize size() const;
+
+    /// The picture at a size in device pixels. If it cannot be rendered, it is stretched.
+    QPixmap inPixels(QSize pixels) const;
+
+    /// The same picture on an opaque ground, so that it is copied to the screen instead of blended.
+    Picture on(const QColor& ground) const;
+
+    /// Whether both are the same picture.
+    bool operator==(const Picture&) const = default;
+
+  private:
+    struct Rendered;
+    std::shared_ptr<Rendered> shared;
 };
-
-/// Draws a picture at its place, unless it is hidden or has no image.
-void draw(PixelPainter& painter, const Picture& picture);
 
 }  // namespace platform

@@ -9,9 +9,9 @@
 
 namespace platform {
 
-PictureBox::PictureBox(Artwork picture, QWidget* parent) : QWidget(parent), shown(std::move(picture)) {}
+PictureBox::PictureBox(Picture picture, QWidget* parent) : QWidget(parent), shown(std::move(picture)) {}
 
-void PictureBox::setPicture(const Artwork& picture) {
+void PictureBox::setPicture(const Picture& picture) {
     if (shown != picture) {
         shown = picture;
         update();

@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-#include "platform/artwork.h"
+#include "platform/picture.h"
 
 namespace platform {
 
@@ -14,16 +14,16 @@ class PictureBox : public QWidget {
     Q_OBJECT
 
   public:
-    explicit PictureBox(Artwork picture, QWidget* parent = nullptr);
+    explicit PictureBox(Picture picture, QWidget* parent = nullptr);
 
-    const Artwork& picture() const { return shown; }
-    void setPicture(const Artwork& picture);
+    const Picture& picture() const { return shown; }
+    void setPicture(const Picture& picture);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    Artwork shown;
+    Picture shown;
 };
 
 }  // namespace platform

@@ -21,16 +21,16 @@ QRect PixelPainter::pixels(const QRect& area) const {
             QPoint(qRound(exact.right()) - 1, qRound(exact.bottom()) - 1)};
 }
 
-void PixelPainter::draw(QPoint place, const Artwork& picture) {
+void PixelPainter::draw(QPoint place, const Picture& picture) {
     const QRect area = pixels({place, picture.size()});
     painter.drawPixmap(area.topLeft(), picture.inPixels(area.size()));
 }
 
-void PixelPainter::draw(QPoint place, const Artwork& picture, const QRegion& region) {
+void PixelPainter::draw(QPoint place, const Picture& picture, const QRegion& region) {
     const QRect area = pixels({place, picture.size()});
     const QPixmap image = picture.inPixels(area.size());
     for (const QRect& part : region) {
-        // Of a pixel of the screen that is touched all is painted.
+        // A screen pixel that is touched at all is painted whole.
         const QRect touched = toScreen.mapRect(QRectF(part)).toAlignedRect() & area;
         painter.drawPixmap(touched, image, touched.translated(-area.topLeft()));
     }

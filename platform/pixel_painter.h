@@ -5,28 +5,28 @@
 
 #include <QPainter>
 
-#include "platform/artwork.h"
+#include "platform/picture.h"
 
 class QRegion;
 
 namespace platform {
 
-/// Paints on a widget in whole pixels of the screen, so that at no scale a picture is blurred between two of them or
-/// leaves a seam beside its neighbour. Places and sizes are given in the pixels of the layout.
+/// Paints pictures and outlines on a widget in whole screen pixels: at no scale is a picture blurred across two pixels
+/// or separated from its neighbour by a seam. Places and sizes are in layout pixels.
 class PixelPainter {
   public:
     explicit PixelPainter(QWidget& widget);
 
-    /// The pixels of the screen, in the painter's own count, that an area covers: each edge lies on the nearest one.
+    /// The screen pixels of an area, in the coordinates of the painter: each edge is rounded to the nearest one.
     QRect pixels(const QRect& area) const;
 
     /// Draws a picture.
-    void draw(QPoint place, const Artwork& picture);
-    /// Draws no more of a picture than lies in a region.
-    void draw(QPoint place, const Artwork& picture, const QRegion& region);
-    /// Draws the outline of an area, all its sides equally thick: the screen's next to one pixel of the layout.
+    void draw(QPoint place, const Picture& picture);
+    /// Draws the part of a picture that is inside a region.
+    void draw(QPoint place, const Picture& picture, const QRegion& region);
+    /// Draws the outline of an area. Thickness of each side: one layout pixel, rounded to whole screen pixels.
     void drawOutline(const QRect& area, const QColor& colour);
-    /// Draws an image that was made for the pixels of the screen.
+    /// Draws an image whose size is in screen pixels.
     void draw(QPoint place, const QPixmap& image);
 
   private:
@@ -34,8 +34,7 @@ class PixelPainter {
     QTransform toScreen;
 };
 
-/// An area of a widget with what rounding may have painted beyond it: a pixel more on each side, where a pixel of the
-/// layout is no whole number of the screen's.
+/// The area, one pixel larger on each side at fractional scales, where rounding may paint outside it.
 QRect withReach(const QWidget& widget, const QRect& area);
 
 }  // namespace platform

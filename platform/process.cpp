@@ -18,7 +18,7 @@
 namespace platform {
 namespace {
 
-// A handler may do next to nothing: it writes a byte, which wakes the event loop.
+// Few calls are safe in a signal handler: it writes a byte to this pipe, which wakes the event loop.
 std::array<int, 2> wake{-1, -1};  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables): handlers take no data
 
 void wakeUp(int) {
@@ -36,7 +36,7 @@ void handle(int signal, void (*handler)(int)) {
     sigaction(signal, &handling, nullptr);
 }
 
-// Without a display, the toolkit logs why it cannot start, as a fatal message. It would then abort, with a core file.
+// Without a display, Qt logs a fatal message and would then abort with a core file.
 void logMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     std::cerr << qPrintable(qFormatLogMessage(type, context, message)) << std::endl;
     if (type == QtFatalMsg) {
@@ -44,7 +44,7 @@ void logMessage(QtMsgType type, const QMessageLogContext& context, const QString
     }
 }
 
-// The library of session management, which the toolkit loads, would end the program on the spot.
+// When the session manager disappears, the library that Qt loads for it would call exit() at once.
 void outliveSessionManager() {
     void* (*setErrorHandler)(void (*)(void*)) = nullptr;
     void* library = dlopen("libICE.so.6", RTLD_NOW | RTLD_NOLOAD);
@@ -57,11 +57,11 @@ void outliveSessionManager() {
 
 void prepareProcess() {
     qInstallMessageHandler(&logMessage);
-    // Not by ignoring them, which the programs that are started from here would inherit.
+    // With a handler, because started programs would inherit that the signals are ignored.
     for (const int signal : {SIGPIPE, SIGXFSZ}) {
         handle(signal, [](int) {});
     }
-    // The lowest descriptor that is free is taken: the first one above them ends it.
+    // open() returns the lowest free descriptor: one above the standard streams shows that all three are open.
     int descriptor = 0;
     while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
         descriptor = open("/dev/null", O_RDWR);

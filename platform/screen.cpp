@@ -12,7 +12,8 @@
 namespace platform {
 namespace {
 
-// Moved by anybody but the program, a window keeps its size in the pixels of the screen instead.
+// When the desktop moves a window to a screen of another scale, Qt keeps its size in screen pixels; this restores the
+// layout size.
 class SizeKeeper : public QObject {
   public:
     explicit SizeKeeper(QWidget& window) : QObject(&window) { window.installEventFilter(this); }

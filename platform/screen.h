@@ -9,11 +9,11 @@ class QWidget;
 
 namespace platform {
 
-/// The full screen on which a window stands or stood last, in twips; the primary one before the window is first shown.
-/// Left and Top are its origin on the desktop.
+/// The full screen that shows a window, or showed it last, in twips; the primary screen before the window is first
+/// shown. Left and Top are its origin on the desktop.
 Box screenOf(const QWidget& window);
 
-/// Keeps the fixed size of a window, in pixels of the layout, when it comes to a screen of another scale.
+/// Keeps the fixed size of a window, in layout pixels, when the window moves to a screen of another scale.
 void keepSizeOnEveryScreen(QWidget& window);
 
 }  // namespace platform

@@ -7,12 +7,12 @@
 
 namespace platform {
 
-/// Loads a library of the system for good, by the name of its file; null if there is none.
+/// Loads a library of the system by its file name, and never unloads it. Null if it is not installed.
 inline void* loadLibrary(const char* file) {
     return dlopen(file, RTLD_NOW | RTLD_LOCAL);
 }
 
-/// Finds a function of a loaded library. Returns whether there is one of that name.
+/// Looks a function of a loaded library up by its name. Returns whether it exists.
 template <typename Function>
 bool resolve(void* library, const char* name, Function& function) {
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): what dlsym is for

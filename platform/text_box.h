@@ -9,15 +9,15 @@ class QLineEdit;
 
 namespace platform {
 
-/// A one-line text box without a context menu. The toolkit's editor loads fonts as soon as it is created, so it
-/// comes with the first painting: the window is on screen before.
+/// A one-line text box without a context menu. Qt's editor loads fonts when it is created, so it is created at the
+/// first painting, when the window is already on the screen.
 class TextBox : public QWidget {
     Q_OBJECT
 
   public:
     explicit TextBox(QString text, QWidget* parent = nullptr);
 
-    /// The text as it stands, typed or set.
+    /// The current text, typed or set.
     QString text() const;
     void setText(const QString& text);
 

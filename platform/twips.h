@@ -7,10 +7,10 @@
 
 namespace platform {
 
-/// The unit in which the windows are laid out: 15 twips to a device-independent pixel.
+/// The windows are laid out in twips: 15 to a layout pixel.
 inline constexpr int twipsPerPixel = 15;
 
-/// The pixel nearest to a place or length in twips; a half goes away from zero.
+/// The nearest whole number of layout pixels for a place or length in twips; a half is rounded away from zero.
 constexpr int toPixels(int twips) {
     constexpr int half = twipsPerPixel / 2;
     return (twips < 0 ? twips - half : twips + half) / twipsPerPixel;
@@ -20,7 +20,7 @@ constexpr int toTwips(int pixels) {
     return pixels * twipsPerPixel;
 }
 
-/// A place and size in twips, relative to the inside of the container.
+/// A place inside its container and a size, in twips.
 struct Box {
     int Left;
     int Top;

@@ -7,11 +7,10 @@
 
 namespace platform {
 
-/// Handles every event that is pending (input, repaint, timers), shows on screen what that painted, and
-/// returns.
+/// Handles all pending events (input, repaints, timers) and returns.
 void yield();
 
-/// Handles events for this long, as they come in.
+/// Handles events for this time, as they arrive.
 void pause(std::chrono::microseconds duration);
 
 }  // namespace platform

@@ -7,8 +7,8 @@
 
 namespace platform {
 
-/// What the program uses of librsvg and of the libraries below it. They are loaded when a picture is first drawn from
-/// its vector source, which most screens never ask for: loading them takes longer than dealing a game.
+/// The functions of librsvg, GObject and Cairo that the program uses. They are loaded when a picture is first drawn
+/// from its vector source, which most screens never need: loading them takes longer than dealing a game.
 struct VectorLibrary {
     decltype(&rsvg_handle_new_from_data) newDrawing;
     decltype(&rsvg_handle_set_stylesheet) setStylesheet;
@@ -23,7 +23,7 @@ struct VectorLibrary {
     decltype(&cairo_translate) translate;
 };
 
-/// The loaded library, or null if the system has none.
+/// The loaded library, or null if it is not installed.
 const VectorLibrary* vectorLibrary();
 
 }  // namespace platform

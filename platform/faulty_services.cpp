@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/services.h"
+#include "platform/faulty_services.h"
 
 #include <algorithm>
 #include <array>
@@ -73,9 +73,9 @@ bool greetSessionManager() {
 
 struct Service {
     bool (*mayBeThere)();
-    bool (*greet)();       ///< waits for an answer; false if the toolkit must not try the service
+    bool (*greet)();       ///< waits for an answer; false if Qt must not use the service
     const char* variable;  ///< the environment variable with its address
-    const char* hidden;    ///< a value with which the toolkit does not try
+    const char* hidden;    ///< the value that makes Qt skip the service
 };
 
 constexpr std::array services{
@@ -84,7 +84,7 @@ constexpr std::array services{
     Service{mayHaveSessionManager, greetSessionManager, sessionManagerVariable, ""},
 };
 
-/// A process that greets a service, since a greeting may last for ever. Both members are -1 if no process was started.
+/// A process that greets a service, because a greeting may never end. Both members are -1 if there is no process.
 struct Greeter {
     pid_t process = -1;
     int ending = -1;  ///< a pipe that closes when the process ends
@@ -111,8 +111,7 @@ Greeter greeterOf(const Service& service) {
     return {process, ends[0]};
 }
 
-/// Waits for the process, until the deadline at most. Returns whether it has ended by then, and neither a failure nor a
-/// crash has ended it.
+/// Waits for the process until the deadline. Returns whether the process has succeeded by then.
 bool succeedsBy(Clock::time_point deadline, const Greeter& greeter) {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
     pollfd ending{.fd = greeter.ending, .events = POLLIN, .revents = 0};
@@ -128,7 +127,7 @@ bool succeedsBy(Clock::time_point deadline, const Greeter& greeter) {
 }  // namespace
 
 void hideFaultyServices() {
-    std::signal(SIGCHLD, SIG_DFL);  // a parent may have left it ignored, and then waitpid() reports no status
+    std::signal(SIGCHLD, SIG_DFL);  // if the parent process ignored it, waitpid() would report no status
     std::array<Greeter, services.size()> greeters;
     std::ranges::transform(services, greeters.begin(), greeterOf);
     const auto deadline = Clock::now() + std::chrono::milliseconds(1500);
@@ -139,7 +138,7 @@ void hideFaultyServices() {
         }
         if (!succeedsBy(deadline, greeter)) {
             qputenv(services[i].variable, services[i].hidden);
-            qWarning("The service of %s cannot be used and is left out.", services[i].variable);
+            qWarning("The service in %s does not answer properly and is not used.", services[i].variable);
         }
         close(greeter.ending);
     }

@@ -1,17 +1,41 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/sound_wav.h"
+#include "platform/sound/sound_file.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <memory>
 #include <numeric>
+#include <optional>
 #include <span>
 
-#include "platform/sound_sdl.h"
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include "platform/sound/sdl.h"
 
 namespace platform {
 namespace {
+
+struct Closer {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+std::optional<std::string> readRegularFile(const std::filesystem::path& path) {
+    const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const std::unique_ptr<std::FILE, Closer> file(fdopen(descriptor, "rb"));
+    struct stat status {};
+    if (!file || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        return std::nullopt;
+    }
+    std::string bytes;
+    if (const auto size = static_cast<std::size_t>(status.st_size); size <= largestSoundFile) {
+        bytes.resize(size);
+        bytes.resize(std::fread(bytes.data(), 1, size, file.get()));
+    }
+    return bytes;
+}
 
 constexpr int longestSeconds = 10;
 constexpr int mostChannels = 2;
@@ -22,8 +46,8 @@ std::uint32_t littleEndian(std::string_view bytes) {
     });
 }
 
-/// SDL would allocate whatever length the data chunk claims, up to 4 GiB, and accept a file cut short. Over SDL 3, it
-/// would also keep only the low byte of the number of channels.
+/// SDL allocates the length that the data chunk claims, up to 4 GiB, and accepts a file that is cut short. The layer
+/// over SDL 3 also keeps only the low byte of the number of channels.
 bool isSafeForSdl(std::string_view file) {
     constexpr std::size_t riffHeader = 12;
     constexpr std::size_t chunkHeader = 8;
@@ -57,9 +81,9 @@ bool isPlayable(const SDL_AudioSpec& audio, Uint32 bytes) {
     return bytes / frameSize(audio) <= static_cast<Uint32>(audio.freq) * longestSeconds;
 }
 
-/// Not by SDL_AudioStream: SDL 2.26 loses up to 512 frames at the end when that resamples.
+/// Without SDL_AudioStream: when it resamples, SDL 2.26 loses up to 512 frames at the end.
 Samples convert(const SDL_AudioSpec& audio, std::span<const Uint8> bytes) {
-    // SDL goes by the size of a frame that the file claims, which may be that of half a frame.
+    // SDL trusts the frame size that the file claims, which may be half the real one.
     bytes = bytes.first(bytes.size() - bytes.size() % frameSize(audio));
     SDL_AudioCVT conversion{};
     if (sdl()->BuildAudioCVT(&conversion, audio.format, audio.channels, audio.freq, AUDIO_S16SYS, samplesChannels,
@@ -79,6 +103,15 @@ Samples convert(const SDL_AudioSpec& audio, std::span<const Uint8> bytes) {
 }
 
 }  // namespace
+
+std::string readSoundFile(const std::vector<std::filesystem::path>& folders, const std::string& name) {
+    for (const auto& folder : folders) {
+        if (auto bytes = readRegularFile(folder / name)) {
+            return *std::move(bytes);
+        }
+    }
+    return {};
+}
 
 Samples decodeWav(std::string_view file) {
     if (!isSafeForSdl(file) || sdl() == nullptr) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/sound.h"
+#include "platform/sound/sound.h"
 
 #include <atomic>
 #include <cstdlib>
@@ -11,7 +11,7 @@
 
 #include <unistd.h>
 
-#include "platform/sound_worker.h"
+#include "platform/sound/worker.h"
 
 namespace platform {
 namespace {
@@ -21,14 +21,14 @@ using Clock = std::chrono::steady_clock;
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): the handler at exit takes no data
 std::atomic<int> workersInUse = 0;
 
-/// A worker that hangs in its device holds locks that exit() would wait for, with glibc 2.41 for ever.
+/// A worker that hangs in its device holds locks. exit() waits for them, with glibc 2.41 for ever.
 void leaveWithoutWorkers(int exitStatus, void*) {
     if (workersInUse > 0) {
         _exit(exitStatus);
     }
 }
 
-/// Hands the names to a thread of its own and waits for it, but never longer than it promised.
+/// Passes the names to a worker thread and waits for it, at most as long as `Sound::play` promises.
 class WorkerSound final : public Sound {
   public:
     WorkerSound(std::vector<std::filesystem::path> soundFolders, SoundTiming soundTiming)
@@ -90,7 +90,7 @@ void WorkerSound::play(const std::string& name) {
         request = SoundRequest{name, Clock::now() + timing.grace};
         mailbox->changed.notify_all();
         while (request && Clock::now() < request->deadline) {
-            const auto deadline = request->deadline;  // A copy, since the worker moves it on.
+            const auto deadline = request->deadline;  // a copy, because the worker changes it
             mailbox->changed.wait_until(lock, deadline);
         }
     } catch (const std::exception&) {

@@ -3,14 +3,14 @@
 
 #pragma once
 
-// The program brings its own main() and handles its own signals.
+// SDL must not replace the program's main().
 #define SDL_MAIN_HANDLED
 #include <SDL.h>
 
 namespace platform {
 
-/// What the program uses of SDL, by the names without their prefix. Loaded on first use: with its dependencies it would
-/// take a fifth of the time until the window shows.
+/// The functions of SDL that the program uses, without their prefix. Loaded on first use: with its dependencies SDL
+/// would take a fifth of the time until the window shows.
 struct Sdl {
     decltype(&SDL_InitSubSystem) InitSubSystem;
     decltype(&SDL_QuitSubSystem) QuitSubSystem;
@@ -33,7 +33,7 @@ struct Sdl {
     decltype(&SDL_ConvertAudio) ConvertAudio;
 };
 
-/// The loaded library, or null if the system has none. Safe to call from any thread.
+/// The loaded library, or null if it is not installed. Safe to call from any thread.
 const Sdl* sdl();
 
 }  // namespace platform

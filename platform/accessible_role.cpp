@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/accessible.h"
+#include "platform/accessible_role.h"
 
 #include <utility>
 
@@ -11,7 +11,7 @@
 namespace platform {
 namespace {
 
-// Keeps with a control what its interface is made of, once a screen reader asks for that.
+// Stores the role with its control until a screen reader asks for the control's interface.
 class RoleOfParent : public QObject {
   public:
     RoleOfParent(QWidget& control, AccessibleRole given) : QObject(&control), role(std::move(given)) {}
@@ -29,7 +29,7 @@ class Interface : public QAccessibleWidget {
         return isItsName ? label->text() : QAccessibleWidget::text(kind);
     }
 
-    // Without a text it would be read out as a notification of nothing.
+    // A notification without a text would be read out as an empty one.
     QAccessible::Role role() const override {
         const bool saysNothing = known.role == QAccessible::Notification && text(QAccessible::Name).isEmpty();
         return saysNothing ? QAccessible::StaticText : known.role;
@@ -41,7 +41,7 @@ class Interface : public QAccessibleWidget {
 
     void doAction(const QString& action) override {
         if (actionNames().contains(action)) {
-            // The screen reader gets its answer first: what a press does may last.
+            // A press may take time, and the screen reader waits for the answer to this call.
             QMetaObject::invokeMethod(
                 widget(),
                 [control = widget(), press = known.press] {
@@ -77,10 +77,10 @@ QAccessibleInterface* create(const QString&, QObject* object) {
 }  // namespace
 
 void setAccessibleRole(QWidget& control, AccessibleRole role) {
-    QAccessible::installFactory(create);  // once, however often it is called
+    QAccessible::installFactory(create);  // Qt ignores every call but the first
     new RoleOfParent(control, std::move(role));
     if (QAccessible::isActive()) {
-        // Whatever the control has said of itself so far, the toolkit's interface has answered for it.
+        // Drop the interface that Qt may already have made for this control; ours replaces it.
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&control)));
     }
 }

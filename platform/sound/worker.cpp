@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/sound_worker.h"
+#include "platform/sound/worker.h"
 
 #include <csignal>
 #include <exception>
 #include <utility>
 
-#include "platform/sound_device.h"
-#include "platform/sound_file.h"
-#include "platform/sound_wav.h"
+#include "platform/sound/device.h"
+#include "platform/sound/sound_file.h"
 
 namespace platform {
 namespace {
@@ -22,7 +21,7 @@ void blockSignals() {
     pthread_sigmask(SIG_SETMASK, &all, nullptr);
 }
 
-/// Sleeps until there is something to do; with an open device for `closeAfter` at most.
+/// Waits for an order; while a device is open, at most for `closeAfter`.
 Order nextOrder(SoundMailbox& mailbox, bool deviceIsOpen, std::chrono::milliseconds closeAfter) {
     std::unique_lock lock(mailbox.mutex);
     const auto isOrdered = [&] { return mailbox.stop || mailbox.request || mailbox.warmUp; };
@@ -49,7 +48,7 @@ bool isGivenUp(const SoundRequest& request) {
     return request.deadline <= std::chrono::steady_clock::now();
 }
 
-/// Has the caller wait for the sound's length too. False if it does not wait any more.
+/// Makes the caller wait for the length of the sound as well. False if the caller has given up.
 bool extendDeadline(SoundMailbox& mailbox, std::chrono::milliseconds length) {
     const std::lock_guard lock(mailbox.mutex);
     if (isGivenUp(*mailbox.request)) {
@@ -65,7 +64,7 @@ bool isStillWanted(SoundMailbox& mailbox) {
     return !isGivenUp(*mailbox.request);
 }
 
-/// Returns the device, which may be another one than before.
+/// Returns the device, which may be a new one.
 SoundDevice play(SoundMailbox& mailbox, const Samples& samples, SoundDevice device) {
     if (samples.empty() || !extendDeadline(mailbox, playingTime(samples.size()))) {
         return device;
@@ -93,7 +92,7 @@ void announceStop(SoundMailbox& mailbox) {
 
 void serveSounds(const std::shared_ptr<SoundMailbox>& mailbox, const std::vector<std::filesystem::path>& folders,
                  std::chrono::milliseconds closeAfter) noexcept {
-    // SDL has one audio subsystem: a worker left behind must be through with it before the next one starts.
+    // SDL has only one audio subsystem: the next worker waits until one that was left behind has finished with it.
     static std::mutex onlyOne;
     const std::lock_guard lock(onlyOne);
     blockSignals();
@@ -101,7 +100,7 @@ void serveSounds(const std::shared_ptr<SoundMailbox>& mailbox, const std::vector
     while (true) {
         switch (nextOrder(*mailbox, device != 0, closeAfter)) {
             case Order::play:
-                // The caller leaves the name alone until the request is cleared.
+                // Read without the lock: the caller does not touch the name until the request is cleared.
                 device = play(*mailbox, load(folders, mailbox->request->name), device);
                 finishRequest(*mailbox);
                 break;

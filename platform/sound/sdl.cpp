@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/sound_sdl.h"
+#include "platform/sound/sdl.h"
 
 #include "platform/shared_library.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 void ignoreAlsaError(const char*, int, const char*, int, const char*, ...) {}
 
-// ALSA would report on standard error, at every try, that there is no sound card.
+// At every attempt without a sound card, ALSA would write so to standard error.
 void silenceAlsa() {
     void* library = loadLibrary("libasound.so.2");
     int (*setErrorHandler)(decltype(&ignoreAlsaError)) = nullptr;
@@ -21,7 +21,7 @@ void silenceAlsa() {
 
 bool load(Sdl& sdl) {
     silenceAlsa();
-    // Never closed again: threads that SDL leaves behind may still run in it.
+    // Never unloaded, because threads that SDL leaves behind may still run its code.
     void* library = loadLibrary("libSDL2-2.0.so.0");
     return library != nullptr && resolve(library, "SDL_InitSubSystem", sdl.InitSubSystem) &&
            resolve(library, "SDL_QuitSubSystem", sdl.QuitSubSystem) &&

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/vector_library.h"
+#include "platform/svg_library.h"
 
 #include "platform/shared_library.h"
 
@@ -9,7 +9,7 @@ namespace platform {
 namespace {
 
 bool load(VectorLibrary& functions) {
-    // The libraries below are found through the one that needs them.
+    // dlsym() finds the functions of GObject and Cairo through librsvg, which depends on them.
     void* library = loadLibrary("librsvg-2.so.2");
     return library != nullptr && resolve(library, "rsvg_handle_new_from_data", functions.newDrawing) &&
            resolve(library, "rsvg_handle_set_stylesheet", functions.setStylesheet) &&

@@ -11,8 +11,8 @@
 
 namespace platform {
 
-/// The program's sound output. It tolerates everything: without a device, a sound server or a file it plays
-/// nothing, and it never throws, logs or reports. To be used from one thread.
+/// The program's sound output. Without a device, a sound server or a file it plays nothing; it never throws, logs or
+/// reports a failure. Use it from one thread.
 struct Sound {
     Sound() = default;
     Sound(const Sound&) = delete;
@@ -24,13 +24,13 @@ struct Sound {
     /// Opens the device in the background, so that the next sound starts without delay. Returns at once.
     virtual void warmUp() = 0;
 
-    /// Plays the WAV file `name`, a bare file name, and returns when it has been heard, at the latest after
-    /// its length and `SoundTiming::grace`. Plays nothing, and returns at once, if the file is missing or
-    /// unfit, if the device is busy, or if an earlier sound is still stuck in a device that hangs.
+    /// Plays the WAV file `name`, a file name without a folder, and returns when the player has heard it, at the latest
+    /// after its length and `SoundTiming::grace`. Returns at once without playing if the file is missing or cannot be
+    /// played, if the device is busy, or if an earlier sound still hangs in the device.
     virtual void play(const std::string& name) = 0;
 };
 
-/// How patient the sound output is.
+/// How long the sound output waits.
 struct SoundTiming {
     /// How much longer than the sound's length `play` waits; also how long destruction waits.
     std::chrono::milliseconds grace = std::chrono::milliseconds(500);
@@ -38,9 +38,9 @@ struct SoundTiming {
     std::chrono::milliseconds closeAfter = std::chrono::seconds(5);
 };
 
-/// Sounds from the first of `folders` that holds the name as a regular file, read afresh each time. The
-/// device is opened for the first sound or `warmUp`. Destruction closes it, or leaves it behind if it hangs.
-/// Of several outputs in one program, the first to be used keeps the others silent until it is destroyed.
+/// A sound output that reads each sound, each time, from the first of `folders` that has a regular file of its name. It
+/// opens the device for the first sound or `warmUp`. Its destructor closes the device, or leaves it behind if it hangs.
+/// If a program has several outputs, the first to play keeps the others silent until it is destroyed.
 std::unique_ptr<Sound> makeSound(std::vector<std::filesystem::path> folders, SoundTiming timing = {});
 
 }  // namespace platform

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/address.h"
+#include "platform/open_address.h"
 
 #include <QDesktopServices>
 #include <QUrl>
@@ -9,7 +9,7 @@
 namespace platform {
 
 void openAddress(const QString& address) {
-    // Where nothing opens it, the toolkit would say so on standard error.
+    // If no program opens the address, Qt would write a warning to standard error.
     const QtMessageHandler usual = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     QDesktopServices::openUrl(QUrl(address));
     qInstallMessageHandler(usual);

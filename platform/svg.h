@@ -9,15 +9,15 @@
 
 namespace platform {
 
-/// A part of a vector drawing, in the drawing's own pixels.
+/// A part of a vector drawing, in the pixels of the drawing.
 struct VectorPart {
     QByteArray svg;
-    QByteArray css;  ///< styles that go before the drawing's own; may be empty
+    QByteArray css;  ///< styles that override those of the drawing; may be empty
     QRect area;
 };
 
-/// Draws the part on a clear ground, stretched to so many pixels. Returns a null image if the system has no library for
-/// it or the drawing cannot be read.
+/// Draws the part on a transparent ground, stretched to a size in pixels. Returns a null image if the library is not
+/// installed or the drawing cannot be read.
 QImage drawVector(const VectorPart& part, QSize pixels);
 
 }  // namespace platform

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/sound_device.h"
+#include "platform/sound/device.h"
 
 #include <array>
 #include <chrono>
@@ -9,7 +9,7 @@
 #include <span>
 #include <thread>
 
-#include "platform/sound_sdl.h"
+#include "platform/sound/sdl.h"
 
 namespace platform {
 namespace {
@@ -45,7 +45,7 @@ void enqueue(SoundDevice device, std::span<const std::int16_t> samples) {
     sdl()->QueueAudio(device, samples.data(), static_cast<Uint32>(samples.size_bytes()));
 }
 
-// SDL 2 reports a lost device by its status, the compatibility layer over SDL 3 by an event alone.
+// SDL 2 reports a lost device by its status, the compatibility layer over SDL 3 only by an event.
 bool isLost(SoundDevice device) {
     sdl()->PumpEvents();
     const bool removed = sdl()->HasEvent(SDL_AUDIODEVICEREMOVED) == SDL_TRUE;
@@ -64,7 +64,7 @@ SoundDevice openSoundDevice(SoundDevice device) {
 }
 
 void playThrough(SoundDevice device, const Samples& samples) {
-    // The queue runs empty two buffers before its last sample is heard.
+    // The queue is empty two buffers before the last sample is heard.
     static constexpr std::array<std::int16_t, 2 * bufferFrames * samplesChannels> silence{};
     enqueue(device, samples);
     enqueue(device, silence);

@@ -7,8 +7,8 @@
 
 namespace platform {
 
-/// Opens a mail or web address ("mailto:…", "https://…") with the player's program for it; blanks in it are
-/// percent-encoded. If there is none, nothing happens.
+/// Opens a mail or web address ("mailto:…", "https://…") with the player's program for it, and percent-encodes its
+/// blanks. Nothing happens if there is no such program.
 void openAddress(const QString& address);
 
 }  // namespace platform

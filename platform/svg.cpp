@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/vector.h"
+#include "platform/svg.h"
 
 #include <memory>
 
-#include "platform/vector_library.h"
+#include "platform/svg_library.h"
 
 namespace platform {
 namespace {

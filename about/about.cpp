@@ -10,13 +10,13 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 
-#include "about/layout.h"
+#include "about/about_controls.h"
 #include "animation/bouncing_pictures.h"
 #include "assets/pictures.h"
-#include "platform/accessible.h"
-#include "platform/address.h"
+#include "platform/accessible_role.h"
 #include "platform/label.h"
 #include "platform/mouse.h"
+#include "platform/open_address.h"
 #include "platform/pixel_painter.h"
 #include "platform/screen.h"
 
@@ -27,9 +27,9 @@ namespace {
 
 enum Link { back = 0, site = 1, mail = 2 };
 
-constexpr int none = 10;  // as an index: no label of a group
+constexpr int none = 10;  // an index of no label
 
-// Sets one label of a group bold and the others regular.
+// Sets the label with this index bold and the others regular.
 template <typename Group>
 void embolden(const Group& group, int Index, platform::FontSize size) {
     for (int k = 0; platform::Label * label : group) {
@@ -39,7 +39,7 @@ void embolden(const Group& group, int Index, platform::FontSize size) {
 
 }  // namespace
 
-About::About(const platform::Box& screen, const animation::Draw& draw, std::function<void()> whenClosed)
+About::About(const platform::Box& screen, const animation::RandomSource& random, std::function<void()> whenClosed)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       closed(std::move(whenClosed)),
       background(assets::picture(u"about.bmp"_s)) {
@@ -69,10 +69,10 @@ About::About(const platform::Box& screen, const animation::Draw& draw, std::func
         ++k;
     }
     describe();
-    AnimateAbout(draw);
+    AnimateAbout(random);
 }
 
-// A screen reader reads the rules of the game when the window opens.
+// Screen readers read name and description of the window when it opens: its title and the rules of the game.
 void About::describe() {
     QStringList paragraphs;
     for (const platform::Label* label : Label2) {
@@ -82,9 +82,9 @@ void About::describe() {
     setAccessibleDescription(paragraphs.join(u'\n'));
 }
 
-void About::AnimateAbout(const animation::Draw& draw) {
+void About::AnimateAbout(const animation::RandomSource& random) {
     auto* balls = new animation::BouncingPictures(*this);
-    balls->start(draw);
+    balls->start(random);
 }
 
 void About::Label1_Click(int Index) {
@@ -134,7 +134,7 @@ void About::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// The keyboard shows where it is as the mouse does.
+// The link with the keyboard's focus is bold, like the link under the mouse.
 bool About::focusNextPrevChild(bool next) {
     const bool moved = QWidget::focusNextPrevChild(next);
     Label1_MouseMove(linkWithFocus());

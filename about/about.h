@@ -9,7 +9,7 @@
 #include <QWidget>
 
 #include "animation/bounce.h"
-#include "platform/artwork.h"
+#include "platform/picture.h"
 #include "platform/twips.h"
 
 namespace platform {
@@ -23,9 +23,9 @@ class About : public QWidget {
     Q_OBJECT
 
   public:
-    /// Creates the window in the middle of a screen, given in twips, with its balls on their way; it is then ready
-    /// to be shown. However it is closed, it calls `whenClosed` once it is hidden.
-    About(const platform::Box& screen, const animation::Draw& draw, std::function<void()> whenClosed);
+    /// Creates the window in the middle of a screen, given in twips, with its balls moving; the window is then ready to
+    /// be shown. Whatever closes it, the window hides and then calls `whenClosed`.
+    About(const platform::Box& screen, const animation::RandomSource& random, std::function<void()> whenClosed);
 
     /// A click on a link: 2 writes a mail to the author, 1 opens the author's web site, 0 goes back to the game.
     void Label1_Click(int Index);
@@ -39,14 +39,14 @@ class About : public QWidget {
 
   private:
     void describe();
-    void AnimateAbout(const animation::Draw& draw);
+    void AnimateAbout(const animation::RandomSource& random);
     void Form_MouseMove();
     void Label1_MouseMove(int Index);
     void Label2_MouseMove(int Index);
     int linkWithFocus() const;
 
     std::function<void()> closed;
-    platform::Artwork background;
+    platform::Picture background;
     std::array<platform::Label*, 3> Label1{};
     std::array<platform::Label*, 6> Label2{};
 };

@@ -16,7 +16,7 @@ int direction(double u) {
 }
 
 int position(int room, double u) {
-    return static_cast<int>(std::lrint(room * u));  // a half goes to the even neighbour
+    return static_cast<int>(std::lrint(room * u));  // a half is rounded to the even neighbour
 }
 
 int turned(int Dir, int Pos, int room) {
@@ -28,13 +28,13 @@ int turned(int Dir, int Pos, int room) {
 
 }  // namespace
 
-Balls scatter(int W, int H, const Draw& draw) {
+Balls scatter(int W, int H, const RandomSource& random) {
     Balls balls{};
     for (Ball& ball : balls) {
-        ball.DirX = direction(draw());
-        ball.DirY = direction(draw());
-        ball.PosX = position(W - side, draw());
-        ball.PosY = position(H - side, draw());
+        ball.DirX = direction(random());
+        ball.DirY = direction(random());
+        ball.PosX = position(W - side, random());
+        ball.PosY = position(H - side, random());
     }
     return balls;
 }

@@ -8,13 +8,13 @@
 
 namespace animation {
 
-/// One random number, uniform in [0, 1).
-using Draw = std::function<double()>;
+/// Returns the next random number, uniform in [0, 1).
+using RandomSource = std::function<double()>;
 
 /// The side of a ball, in twips.
 inline constexpr int side = 300;
 
-/// A ball on its way: the top left corner inside the field, in twips, and the direction along each axis, -1 or +1.
+/// A moving ball: its top left corner inside the field, in twips, and its direction along each axis, -1 or +1.
 struct Ball {
     int PosX;
     int PosY;
@@ -25,12 +25,12 @@ struct Ball {
 
 using Balls = std::array<Ball, 6>;
 
-/// Balls at random places in a field of W by H twips, on their way in random directions. Draws four numbers for each
-/// ball: for DirX, DirY, PosX and PosY.
-Balls scatter(int W, int H, const Draw& draw);
+/// Balls at random places in a field of W by H twips, moving in random directions. Takes four random numbers for each
+/// ball, for DirX, DirY, PosX and PosY.
+Balls scatter(int W, int H, const RandomSource& random);
 
 /// Moves every ball by one pass: 10 twips along each axis. A ball turns back one pass after it has crossed an edge of
-/// the field, so it may stand up to 10 twips beyond.
+/// the field, so it may be up to 10 twips outside.
 void pass(Balls& balls, int W, int H);
 
 }  // namespace animation

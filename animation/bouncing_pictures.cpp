@@ -33,8 +33,8 @@ BouncingPictures::BouncingPictures(QWidget& where) : QObject(&where), field(wher
     field.installEventFilter(this);
 }
 
-void BouncingPictures::start(const Draw& draw) {
-    balls = scatter(platform::toTwips(field.width()), platform::toTwips(field.height()), draw);
+void BouncingPictures::start(const RandomSource& random) {
+    balls = scatter(platform::toTwips(field.width()), platform::toTwips(field.height()), random);
     advance(1);
     run();
 }
@@ -44,7 +44,7 @@ void BouncingPictures::stop() {
     timer.stop();
 }
 
-// Of a field that comes back on screen only its window may hear: nothing of it needs to be painted anew.
+// When the field becomes visible again, perhaps only its window gets an event: the field itself need not be repainted.
 bool BouncingPictures::eventFilter(QObject* watched, QEvent* event) {
     const bool shown = event->type() == QEvent::Show || event->type() == QEvent::Expose;
     if (shown && pace && !timer.isActive()) {
@@ -74,7 +74,7 @@ void BouncingPictures::advance(int passes) {
     for (std::size_t k = 0; k < balls.size(); ++k) {
         const QPoint place(platform::toPixels(balls[k].PosX), platform::toPixels(balls[k].PosY));
         const QRect before = pictures[k]->geometry();
-        // One area for each ball is painted sooner than the corners of two.
+        // One rectangle around the old and new place paints faster than two.
         field.update(platform::withReach(field, before | QRect(place, before.size())));
         pictures[k]->move(place);
     }

@@ -10,22 +10,22 @@
 #include <QWidget>
 
 #include "animation/bounce.h"
-#include "animation/pace.h"
+#include "animation/frame_pace.h"
 
 namespace animation {
 
-/// The six ball pictures of a window or panel, bouncing inside it. They rest, and cost nothing, while they are not on
-/// screen.
+/// Makes the six ball pictures of a window or panel bounce inside it. While they are not on the screen, they stop and
+/// use no processor time.
 class BouncingPictures : public QObject {
     Q_OBJECT
 
   public:
-    /// `where` is the field, which holds the pictures under the names ip, ir, iv, ig, ib and ij.
+    /// The field `where` contains the pictures, with the names ip, ir, iv, ig, ib and ij.
     explicit BouncingPictures(QWidget& where);
 
-    /// Scatters the pictures over the field, as large as it is now, and keeps them bouncing.
-    void start(const Draw& draw);
-    /// Leaves them where they are.
+    /// Scatters the pictures over the field in its current size and starts them.
+    void start(const RandomSource& random);
+    /// Stops the pictures where they are.
     void stop();
 
   protected:
@@ -40,8 +40,8 @@ class BouncingPictures : public QObject {
     QWidget& field;
     std::array<QWidget*, std::tuple_size_v<Balls>> pictures{};
     Balls balls{};
-    std::optional<Pace> pace;  ///< while they bounce
-    QTimer timer;              ///< runs while they bounce on screen
+    std::optional<FramePace> pace;  ///< while they bounce
+    QTimer timer;                   ///< runs while they bounce on screen
 };
 
 }  // namespace animation

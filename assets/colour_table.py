@@ -4,10 +4,9 @@
 
 """Can players with any kind of sight tell the six balls apart?
 
-Prints for each folder of pictures the colour difference (CIEDE2000) of every pair of balls, by mean
-and by dominant colour, for normal sight and for three simulated kinds of dichromacy, and the least of
-them all.
-The exit status is 1 if that is below LEAST_DIFFERENCE.
+Prints, for each folder of pictures, the colour difference (CIEDE2000) of every pair of balls, by mean and by dominant
+colour, for normal sight and for three simulated kinds of dichromacy, and then the smallest of these differences.
+The exit status is 1 if the smallest difference is below LEAST_DIFFERENCE.
 
 Usage: colour_table.py [PICTURES_FOLDER...]
 """
@@ -79,8 +78,8 @@ def ciede2000(one, other):
 
 
 def ball_colours(path):
-    """Mean and dominant colour of the pixels that are mostly opaque, 0 to 1. The dominant one is the mean of the
-    fullest bin when each channel is cut into eight."""
+    """Mean and dominant colour of the pixels that are mostly opaque, 0 to 1. For the dominant
+    colour, each channel is divided into eight bins; it is the mean of the fullest bin."""
     pixels = np.array(Image.open(path).convert("RGBA")).reshape(-1, 4)
     pixels = pixels[pixels[:, 3] > 127, :3]
     bins, members, counts = np.unique(pixels // 32, axis=0, return_inverse=True, return_counts=True)

@@ -10,11 +10,11 @@
 #include <QFileInfo>
 #include <QTransform>
 
-#include "platform/vector.h"
+#include "platform/svg.h"
 
 using namespace Qt::StringLiterals;
 
-// The macro declares a function of the global namespace.
+// Outside of the namespace, because the macro declares a function of the global namespace.
 static void ensureResources() {
     Q_INIT_RESOURCE(pictures);
 }
@@ -22,13 +22,13 @@ static void ensureResources() {
 namespace assets {
 namespace {
 
-/// What a picture is drawn from: the place of its part in a vector drawing, in the drawing's pixels.
+/// The vector source of a picture: a part of a drawing, at a place in the pixels of the drawing.
 struct Source {
     QLatin1String name;
     const char* drawing;
     QPoint place{};
     const char* style = nullptr;
-    bool turned = false;  ///< half round
+    bool turned = false;  ///< by 180 degrees
 };
 
 constexpr auto sources = std::to_array<Source>({
@@ -61,10 +61,10 @@ QImage draw(const QString& name, QSize natural, QSize pixels) {
 
 }  // namespace
 
-platform::Artwork picture(const QString& name) {
+platform::Picture picture(const QString& name) {
     ensureResources();
     const QFileInfo file(name);
-    // Named by its suffix, the format is not looked for in every plugin that there is.
+    // The suffix names the format; without it Qt would try every image plugin.
     const QPixmap natural(u":/pictures/"_s + name, file.suffix().toLatin1().constData());
     if (natural.isNull()) {
         return {};

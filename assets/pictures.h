@@ -5,11 +5,11 @@
 
 #include <QString>
 
-#include "platform/artwork.h"
+#include "platform/picture.h"
 
 namespace assets {
 
-/// A picture of the program by its file name ("ir.gif"); none if there is no such file.
-platform::Artwork picture(const QString& name);
+/// The picture with this file name ("ir.gif"); an empty picture if there is no such file.
+platform::Picture picture(const QString& name);
 
 }  // namespace assets

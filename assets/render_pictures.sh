@@ -7,7 +7,7 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
-field='rgb(128,160,192)' # the steel blue on which the cut-out pictures stand
+field='rgb(128,160,192)' # the steel blue background of the windows
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
@@ -17,16 +17,15 @@ render() {
         convert png:- -scale 12.5% -depth 8 -strip png:-
 }
 
-# A pixel of the cut-out pictures is opaque or clear, nothing between: edge pixels are blended with
-# the field, and those hardly covered are left out.
+# A pixel of a GIF or icon is either opaque or transparent. Edge pixels that are covered enough are blended with the
+# background, the others become transparent.
 cut_out() {
     convert png:- \( +clone -alpha extract -threshold 35% \) \
         \( -clone 0 -background "$field" -flatten -alpha off \) -delete 0 +swap \
         -compose CopyOpacity -composite +dither -colors "$1" -depth 8 png:-
 }
 
-# colour_table.py guards the colours of the balls: they differ in lightness as well as in hue, for players who confuse
-# hues.
+# The balls differ in lightness as well as in hue, for players who confuse hues. colour_table.py checks it.
 for ball in ir ib iv ij ip ig; do
     render ball 20 20 "sources/$ball.css" | cut_out 256 | convert png:- +dither "pictures/$ball.gif"
 done
@@ -51,8 +50,8 @@ PIECES
 
 render about 413 344 | convert png:- -alpha off -type TrueColor BMP3:pictures/about.bmp
 
-# The help icon stands on the field; the window icon stands on any ground, so its edges are not
-# blended, and its palette is chosen by hand: red, yellow and blue from dark to light, and white.
+# The help icon is shown on the steel blue background. The window icon is shown on any background, so its edges are not
+# blended. Its palette is chosen by hand: red, yellow and blue from dark to light, and white.
 render help 32 32 | cut_out 16 >"$work/help.png"
 convert -size 1x1 xc:'#8b0002' xc:'#b60008' xc:'#db000f' xc:'#ee4a2c' xc:'#ffb3a6' \
     xc:'#cd8300' xc:'#f0b400' xc:'#ffe000' xc:'#fff3a0' \
@@ -63,7 +62,7 @@ for name in help zampotine; do
     icotool --create --output "pictures/$name.ico" "$work/$name.png"
 done
 
-# For the desktop: edges that are blended with any ground, and no chunk but the pixels.
+# Icons for the desktop: their edges are half transparent, and the files contain nothing but the pixels.
 mkdir -p icons
 for size in 16 22 24 32 48 64 128 256 512; do
     rsvg-convert --width $size --height $size sources/zampotine.svg |

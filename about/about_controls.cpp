@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "about/layout.h"
+#include "about/about_controls.h"
 
 #include <array>
 

@@ -13,14 +13,14 @@ trap 'rm -rf "$work"' EXIT
 # Semitones above the A of 440 Hz; the major pentatonic, in which any notes sound well together.
 declare -A semitone=([C4]=-9 [G4]=-2 [C5]=3 [D5]=5 [E5]=7 [G5]=10 [A5]=12 [C6]=15 [D6]=17 [E6]=19 [G6]=22)
 
-# partial FILE START LENGTH PITCH DECIBELS: a sine from START on that dies away exponentially.
+# partial FILE START LENGTH PITCH DECIBELS: a sine that begins at START and fades exponentially.
 partial() {
     sox -R -D -n -r 44100 -c 1 -e floating-point -b 32 "$1" synth "$3" sine "$4" \
         fade t 0.003 fade l 0 "$3" "$3" gain "$5" pad "$2"
 }
 
-# sound FILE LENGTH PEAK RING START:NOTE...: seconds, but the peak in decibels of full scale; each
-# note dies away within RING.
+# sound FILE LENGTH PEAK RING START:NOTE...: times in seconds, PEAK in decibels of full scale. Each note fades within
+# RING.
 sound() {
     local file=$1 length=$2 peak=$3 ring=$4 note tone part parts=()
     shift 4

@@ -8,14 +8,14 @@
 namespace animation {
 
 /// Paces an animation by the wall clock: 240 passes a second, drawn four at a time.
-class Pace {
+class FramePace {
   public:
     using Time = std::chrono::steady_clock::time_point;
 
-    explicit Pace(Time start) : done(start) {}
+    explicit FramePace(Time start) : done(start) {}
 
-    /// How many passes are due since they were last asked for. Not many: what was missed in a longer pause is not
-    /// made up for.
+    /// The number of passes that are due since the last call, at most three frames: after a longer pause the animation
+    /// does not catch up.
     int passesDue(Time now) {
         constexpr int most = 3 * passesPerFrame;
         const auto due = (now - done) / pass;
@@ -30,7 +30,7 @@ class Pace {
     static constexpr int passesPerFrame = 4;
     static constexpr auto pass = std::chrono::nanoseconds(std::chrono::seconds(1)) / 240;
 
-    Time done;  // the passes until then were handed out
+    Time done;  // all passes until then have been reported as due
 };
 
 }  // namespace animation

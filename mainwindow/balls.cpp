@@ -3,18 +3,17 @@
 
 #include "mainwindow/balls.h"
 
+#include <type_traits>
 #include <utility>
 
 #include <QCheckBox>
 #include <QGuiApplication>
-#include <QLabel>
-#include <QPaintEvent>
 #include <QRadioButton>
 
 #include "about/about.h"
 #include "assets/pictures.h"
-#include "mainwindow/boardcursor.h"
-#include "mainwindow/layout.h"
+#include "mainwindow/balls_controls.h"
+#include "mainwindow/board/board_widget.h"
 #include "platform/controls.h"
 #include "platform/label.h"
 #include "platform/mouse.h"
@@ -30,12 +29,11 @@ namespace mainwindow {
 balls::balls(Surroundings world)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       surroundings(std::move(world)),
-      bestScores(surroundings.store) {
+      bestScores(surroundings.store, rules::levels),
+      c(new BoardWidget(*this, game.board)) {
     setWindowTitle(u"Zampotine"_s);
     platform::keepSizeOnEveryScreen(*this);
-    cursor = new BoardCursor(*this, game.board, [this](rules::CellIndex i) { play(i); });
-    platform::buildControls(controlsInWindow(), *this, assets::picture);
-    bindControls();
+    createControls();
     connectControls();
     connectMouse();
     connectKeys();
@@ -46,45 +44,52 @@ balls::balls(Surroundings world)
 
 balls::~balls() = default;
 
-void balls::bindControls() {
-    Frame1 = platform::control<QWidget>(*this, "Frame1");
-    Frame2 = platform::control<QWidget>(*this, "Frame2");
+void balls::createControls() {
+    const auto bind = [this](auto*& control, const char* name, int index = -1) {
+        control = platform::control<std::remove_reference_t<decltype(*control)>>(*this, name, index);
+    };
+    const auto bindAll = [&](auto& array, const char* name) {
+        for (int k = 0; auto*& control : array) {
+            bind(control, name, k++);
+        }
+    };
+    platform::buildControls(controlsInWindow(), *this, assets::picture);
+    bind(Frame1, "Frame1");
+    bind(Frame2, "Frame2");
+    bindAll(BTN, "BTN");
     platform::buildControls(controlsInFrame1(), *Frame1, assets::picture);
+    bind(Label1, "Label1");
+    bind(Label7, "Label7");
     platform::buildControls(controlsInFrame2(), *Frame2, assets::picture);
-    Check1 = platform::control<QCheckBox>(*this, "Check1");
-    sc = platform::control<platform::Label>(*this, "sc");
-    Label1 = platform::control<platform::Label>(*this, "Label1");
-    Label3 = platform::control<platform::Label>(*this, "Label3");
-    Label4 = platform::control<platform::Label>(*this, "Label4");
-    Label7 = platform::control<platform::Label>(*this, "Label7");
-    l1[0] = platform::control<platform::Label>(*this, "l1", 0);
-    l1[3] = platform::control<platform::Label>(*this, "l1", 3);
-    for (int k = 0; auto& face : BTN) {
-        face = platform::control<platform::PictureBox>(*this, "BTN", k++);
-    }
-    for (int k = 0; auto& button : ImBTN) {
-        button = platform::control<platform::PictureBox>(*this, "ImBTN", k++);
-    }
-    for (int k = 0; auto& box : Text1) {
-        box = platform::control<platform::TextBox>(*this, "Text1", k++);
-    }
-    for (int k = 0; auto& option : Option1) {
-        option = platform::control<QRadioButton>(*this, "Option1", k++);
-    }
-    for (int k = 0; auto& label : hsc) {
-        label = platform::control<platform::Label>(*this, "hsc", k++);
+    bind(Check1, "Check1");
+    bind(Image1, "Image1");
+    bind(Label2, "Label2");
+    bind(Label3, "Label3");
+    bind(Label4, "Label4");
+    bind(sc, "sc");
+    bind(l1[0], "l1", 0);
+    bind(l1[3], "l1", 3);
+    bindAll(Text1, "Text1");
+    bindAll(Option1, "Option1");
+    bindAll(LabBtn, "LabBtn");
+    bindAll(ImBTN, "ImBTN");
+    bindAll(Label5, "Label5");
+    bindAll(hsc, "hsc");
+    for (platform::Label* label : hsc) {
         label->setEnabled(false);
     }
     endBalls = new animation::BouncingPictures(*Frame1);
 }
 
 void balls::connectControls() {
-    for (int i = 0; i < 3; ++i) {
+    connect(c, &BoardWidget::pressed, this, &balls::c_MouseDown);
+    connect(c, &BoardWidget::played, this, &balls::play);
+    for (int i = 0; i < static_cast<int>(ImBTN.size()); ++i) {
         platform::onClick(*ImBTN[i], [this, i] { ImBTN_Click(i); });
-        platform::onClick(*platform::control<QLabel>(*this, "LabBtn", i), [this, i] { LabBtn_Click(i); });
+        platform::onClick(*LabBtn[i], [this, i] { LabBtn_Click(i); });
     }
     for (int k = 0; QRadioButton * option : Option1) {
-        // The options are one tab stop, entered at the selected one.
+        // The options are one tab stop: Tab goes to the selected option.
         option->setFocusPolicy(Qt::ClickFocus);
         connect(option, &QRadioButton::toggled, this, [this, option, k](bool selected) {
             option->setFocusPolicy(selected ? Qt::StrongFocus : Qt::ClickFocus);
@@ -94,15 +99,14 @@ void balls::connectControls() {
         });
         ++k;
     }
-    platform::onPress(*platform::control<QWidget>(*this, "Image1"), [this](const QMouseEvent&) { Image1_MouseDown(); });
+    platform::onPress(*Image1, [this](const QMouseEvent&) { Image1_MouseDown(); });
     platform::onClick(*Frame1, [this] { Frame1_Click(); });
     // The session may end without closing the window first.
     connect(qApp, &QGuiApplication::commitDataRequest, this, &balls::Form_Unload);
 }
 
-void balls::paintEvent(QPaintEvent* event) {
+void balls::paintEvent(QPaintEvent*) {
     platform::PixelPainter painter(*this);
-    c.draw(painter, game.board, event->region());
     frame.draw(painter);
 }
 

@@ -8,11 +8,11 @@
 
 #include "assets/pictures.h"
 #include "mainwindow/balls.h"
+#include "platform/faulty_services.h"
 #include "platform/look.h"
 #include "platform/process.h"
 #include "platform/screen.h"
-#include "platform/services.h"
-#include "platform/sound.h"
+#include "platform/sound/sound.h"
 #include "platform/yield.h"
 #include "rules/random.h"
 #include "settings/store.h"
@@ -21,15 +21,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Where a sound is looked for, the first place first.
+// The folders in which a sound is looked for, in order.
 std::vector<std::filesystem::path> soundFolders() {
     const std::filesystem::path program = QCoreApplication::applicationDirPath().toStdString();
     return {".", program, program / ZAMPOTINE_DATA_FOLDER / "zampotine" / "sounds"};
 }
 
-// In the pixels of the finest screen.
+// Drawn for the screen with the highest scale.
 QIcon windowIcon() {
-    const platform::Artwork picture = assets::picture(u"zampotine.ico"_s);
+    const platform::Picture picture = assets::picture(u"zampotine.ico"_s);
     return {picture.inPixels(picture.size() * qApp->devicePixelRatio())};
 }
 
@@ -38,7 +38,7 @@ QIcon windowIcon() {
 int main(int, char* argv[]) {
     platform::prepareProcess();
     platform::hideFaultyServices();
-    // There is no command line: the toolkit would take options of its own from it.
+    // Without the arguments: Qt would read its own options from them, and the game has none.
     int argc = 1;
     const QApplication application(argc, argv);
     QApplication::setApplicationName(u"zampotine"_s);
@@ -46,13 +46,14 @@ int main(int, char* argv[]) {
     QApplication::setApplicationVersion(QStringLiteral(ZAMPOTINE_VERSION));
     QGuiApplication::setDesktopFileName(u"zampotine"_s);
     QApplication::setWindowIcon(windowIcon());
-    // Only the main window ends the program, also while it is hidden behind another one.
+    // Closing About must not end the program while the main window is hidden.
     QApplication::setQuitOnLastWindowClosed(false);
     platform::applyLook();
 
     settings::Store store(settings::defaultPath(QCoreApplication::applicationFilePath()));
     const auto sound = platform::makeSound(soundFolders());
-    mainwindow::balls window({store, *sound, rules::seedFromClock, platform::screenOf, platform::pause});
+    mainwindow::balls window(
+        {store, *sound, rules::seedFromClock, rules::seedFromClock, platform::screenOf, platform::pause});
     platform::onQuitSignal(window, [&window] { window.close(); });
     window.show();
     return QApplication::exec();

@@ -8,14 +8,16 @@
 
 namespace mainwindow {
 
-/// The pace at which the balls of a group vanish: one display refresh a ball for the first ten, then ever
-/// less, and never more than 300 ms in all.
+/// The pace at which the balls of a group vanish: each of the first ten takes a display refresh, each later one less
+/// than the one before. All balls together take less than 300 ms.
 class RemovalPace {
   public:
     static constexpr std::chrono::microseconds refresh{16'000};
 
-    /// One more ball is gone. Returns how long to show the board as it now is: nothing, or a refresh and
-    /// more.
+    /// Whether no ball has been removed yet.
+    bool isNew() const { return balls == 0; }
+
+    /// Call it after each removed ball. Returns how long to pause: zero, or at least one refresh.
     std::chrono::microseconds nextBall() {
         constexpr int evenBalls = 10;
         constexpr double shrink = 0.89;  // 16 ms × (10 + 0.89 / 0.11) stays below 300 ms

@@ -1,33 +1,28 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/boardgeometry.h"
+#include "mainwindow/board/geometry.h"
 
 #include "platform/twips.h"
 
 namespace mainwindow {
 namespace {
 
-// A cell is a whole number of pixels wide, so cells stay aligned with each other wherever rounding puts the
-// first.
 constexpr int side = platform::toPixels(Pas);
 constexpr int origin = platform::toPixels(boardOrigin);
+// Otherwise rounding would leave gaps between cells.
 static_assert(side * platform::twipsPerPixel == Pas);
 
 }  // namespace
 
-Place placeOf(const rules::Board& board, rules::CellIndex i) {
-    const auto [col, row] = board.positionOf(i);
-    return {boardOrigin + col * Pas, boardOrigin + row * Pas};
+QRect boardArea(const rules::Board& board) {
+    const QRect cells(origin, origin, board.NbCol * side, board.NbLig * side);
+    return cells.adjusted(-boardMargin, -boardMargin, boardMargin, boardMargin);
 }
 
 QRect cellArea(const rules::Board& board, rules::CellIndex i) {
-    const auto [Left, Top] = placeOf(board, i);
-    return {platform::toPixels(Left), platform::toPixels(Top), side, side};
-}
-
-QRect boardArea(const rules::Board& board) {
-    return {origin, origin, board.NbCol * side, board.NbLig * side};
+    const auto [col, row] = board.positionOf(i);
+    return {boardMargin + col * side, boardMargin + row * side, side, side};
 }
 
 std::optional<rules::CellIndex> cellAt(const rules::Board& board, QPoint point) {
@@ -39,7 +34,8 @@ std::optional<rules::CellIndex> cellAt(const rules::Board& board, QPoint point) 
 }
 
 QRect cellsTouching(const rules::Board& board, const QRect& area) {
-    const QRect part = (area & boardArea(board)).translated(-origin, -origin);
+    const QRect cells(boardMargin, boardMargin, board.NbCol * side, board.NbLig * side);
+    const QRect part = (area & cells).translated(-boardMargin, -boardMargin);
     if (part.isEmpty()) {
         return {};
     }

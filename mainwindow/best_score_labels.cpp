@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The best scores: their rule, their reset, and the labels that show them.
+// The labels of the best scores follow the score and the reset.
 
 #include "mainwindow/balls.h"
 #include "platform/label.h"
@@ -11,24 +11,25 @@ using namespace Qt::StringLiterals;
 namespace mainwindow {
 
 void balls::sc_Change() {
-    bestScores.sc_Change(game.Diff, sc->text());
-    showBestScore();
+    bestScores.raise(game.Diff, sc->text());
+    showBestScores();
+    showBestScore(game.Diff);
 }
 
 void balls::resetBestScore() {
     bestScores.reset(game.Diff);
-    showBestScore();
+    showBestScores();
+    showBestScore(game.Diff);
 }
 
-void balls::showTable() {
+void balls::showBestScores() {
     for (int k = 0; platform::Label * label : hsc) {
         label->setText(bestScores.hsc(k++));
     }
 }
 
-void balls::showBestScore() {
-    showTable();
-    Label4->setText(bestScores.hsc(game.Diff));
+void balls::showBestScore(int level) {
+    Label4->setText(bestScores.hsc(level));
 }
 
 }  // namespace mainwindow

@@ -1,22 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The new-game sequence: the board is sized, dealt and laid out.
+// The new-game sequence sizes, deals and lays out the board.
 
 #include <algorithm>
 
 #include <QRadioButton>
 
 #include "mainwindow/balls.h"
-#include "mainwindow/boardcursor.h"
-#include "mainwindow/boardgeometry.h"
-#include "mainwindow/boardtable.h"
-#include "mainwindow/sizing.h"
+#include "mainwindow/board/board_widget.h"
+#include "mainwindow/board/geometry.h"
+#include "mainwindow/board_size.h"
 #include "platform/label.h"
 #include "platform/text_box.h"
 #include "platform/yield.h"
 #include "rules/deal.h"
-#include "rules/outcome.h"
+#include "rules/status_lines.h"
 
 namespace mainwindow {
 namespace {
@@ -28,12 +27,12 @@ int requested(const platform::TextBox& box) {
 }  // namespace
 
 void balls::startGame() {
-    exclusively([this] {
-        SizeBoard();
-        NewGame();
-        LayoutBoard();
-        l1[0]->clear();
-    });
+    turns.begin();
+    SizeBoard();
+    NewGame();
+    LayoutBoard();
+    l1[0]->clear();
+    turns.end();
 }
 
 void balls::SizeBoard() {
@@ -44,14 +43,13 @@ void balls::SizeBoard() {
     Text1[1]->setText(QString::number(size.NbCol));
     Text1[0]->setText(QString::number(size.NbLig));
     rules::resizeBoard(game, size.NbCol, size.NbLig);
-    c.create(game.board);
-    cursor->fitBoard();
+    c->fitToBoard();
     bestScores.load();
-    showTable();
+    showBestScores();
 }
 
 void balls::ClearBoard() {
-    c.clear();
+    game.board = {};
 }
 
 int balls::selectedLevel() const {
@@ -62,8 +60,7 @@ int balls::selectedLevel() const {
 void balls::NewGame() {
     hideEndPanel();
     rules::deal(game, selectedLevel(), rules::Random(surroundings.seed()));
-    c.showAll(game.board);
-    tellChanges(*cursor);
+    c->showBoard();
     bestScores.load(game.Diff);
     scoreChanged();
     remainingChanged(rules::remainingText(game.Total, game.NBBoules));

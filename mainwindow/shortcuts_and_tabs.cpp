@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// What keys do beside those that the toolkit knows and those of the board.
+// The window's shortcuts and tab order. Qt handles the usual keys, the board its own.
 
 #include <QCheckBox>
 #include <QRadioButton>
 #include <QShortcut>
 
 #include "mainwindow/balls.h"
-#include "mainwindow/boardcursor.h"
 #include "platform/text_box.h"
 
 namespace mainwindow {
@@ -22,18 +21,18 @@ void balls::connectKeys() {
         on(this, key, [this, i] { ImBTN_Click(i); });
         ++i;
     }
-    on(this, Qt::CTRL | Qt::Key_N, [this] { ImBTN_Click(newGame); });
+    on(this, Qt::CTRL | Qt::Key_N, [this] { turns.perform(Command::newGame); });
     on(this, helpKey, [this] { Image1_MouseDown(); });
     on(this, Qt::CTRL | Qt::Key_S, [this] { Check1->toggle(); });
-    // A hidden panel hears no keys.
+    // The shortcuts of a hidden panel are off.
     for (const auto key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
         on(Frame1, key, [this] { Frame1_Click(); });
     }
 }
 
-// The board comes first of all, by its age.
+// The board was created first, so it is already first in the tab order.
 void balls::orderTabStops() {
-    for (int k = 4; k > 0; --k) {
+    for (std::size_t k = Option1.size() - 1; k > 0; --k) {
         setTabOrder(Option1[k], Option1[k - 1]);
     }
     setTabOrder(Option1[0], Text1[1]);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The panel that shows at the end of a game.
+// The end-of-game panel, `Frame1`.
 
 #include "mainwindow/balls.h"
 #include "platform/label.h"
@@ -24,12 +24,12 @@ void balls::ShowEndPanel() {
     Frame1->setGeometry(platform::toPixels({250, 250, toTwips(Frame2->x()) - 300, toTwips(height()) - 500}));
     Label1->setFixedWidth(Frame1->width());
     Label7->setFixedWidth(Frame1->width());
-    // Not what Label4 shows: that may be the preview of another level by now.
+    // Not the text of Label4, which may preview another level's best score.
     const double best = settings::numberIn(bestScores.hsc(game.Diff)).value_or(0);
     Label7->setVisible(best <= static_cast<double>(game.score));
-    // Its own name, for screen readers, is what can be read in it.
+    // Screen readers read the panel's own name, not its labels.
     Frame1->setAccessibleName(Label1->text() + (Label7->isVisible() ? u", "_s + Label7->text() : QString()));
-    endBalls->start(rules::Random(rules::seedFromClock()));
+    endBalls->start(rules::Random(surroundings.animationSeed()));
 }
 
 void balls::Frame1_Click() {

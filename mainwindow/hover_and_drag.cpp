@@ -1,16 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// What the mouse does beside playing: the window is dragged, buttons show that they are under it, and the best score
-// of the level under it is previewed.
+// The mouse outside of the board: it drags the window, lights the buttons up, and previews the best score of a level.
 
-#include <QLabel>
 #include <QMouseEvent>
 #include <QRadioButton>
 
 #include "mainwindow/balls.h"
-#include "mainwindow/boardgeometry.h"
-#include "platform/controls.h"
 #include "platform/drag.h"
 #include "platform/label.h"
 #include "platform/mouse.h"
@@ -21,17 +17,15 @@ namespace mainwindow {
 void balls::connectMouse() {
     setMouseTracking(true);
     platform::onMove(*Frame2, [this] { Frame2_MouseMove(); });
-    for (int i = 0; platform::PictureBox * button : ImBTN) {
-        platform::onMove(*button, [this, i] { ImBTN_MouseMove(i); });
-        platform::onMove(*platform::control<QLabel>(*this, "LabBtn", i), [this, i] { LabBtn_MouseMove(i); });
-        ++i;
+    for (int i = 0; i < static_cast<int>(ImBTN.size()); ++i) {
+        platform::onMove(*ImBTN[i], [this, i] { ImBTN_MouseMove(i); });
+        platform::onMove(*LabBtn[i], [this, i] { LabBtn_MouseMove(i); });
     }
     for (int i = 0; QRadioButton * option : Option1) {
         platform::onMove(*option, [this, i] { Option1_MouseMove(i); });
         ++i;
     }
-    // l1_MouseDown and l1_MouseMove, and those of Label2, Label3, Label4 and sc, are all alike.
-    auto* Label2 = platform::control<platform::Label>(*this, "Label2");
+    // The same handlers serve as l1_MouseDown and l1_MouseMove, and as those of Label2, Label3, Label4 and sc.
     for (platform::Label* label : {l1[0], l1[3], Label2, Label3, Label4, sc}) {
         platform::onPress(*label, [label](const QMouseEvent& press) { platform::dragWindow(*label, press); });
         platform::onMove(*label, [this] { highlight(noButton); });
@@ -43,17 +37,17 @@ void balls::Form_MouseDown(const QMouseEvent& press) {
 }
 
 void balls::Form_MouseMove() {
-    Label4->setText(bestScores.hsc(game.Diff));
+    showBestScore(game.Diff);
     highlight(noButton);
 }
 
 void balls::Frame2_MouseMove() {
     highlight(noButton);
-    Label4->setText(bestScores.hsc(game.Diff));
+    showBestScore(game.Diff);
 }
 
 void balls::Option1_MouseMove(int Index) {
-    Label4->setText(bestScores.hsc(Index));
+    showBestScore(Index);
     highlight(noButton);
 }
 
@@ -71,23 +65,15 @@ void balls::highlight(int i) {
     }
 }
 
-// One hit test for all that the window paints itself, front to back: border, cells, background.
 void balls::mousePressEvent(QMouseEvent* event) {
-    const QPoint point = platform::pixelUnder(*event);
-    if (frame.contains(point)) {
-        return;
-    }
-    if (const auto cell = cellAt(game.board, point)) {
-        c_MouseDown(*cell, *event);
-    } else {
+    if (!frame.contains(platform::pixelUnder(*event))) {
         Form_MouseDown(*event);
     }
 }
 
-// While a button is held, the pointer belongs to the cell or piece of the border that it was pressed on.
 void balls::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint point = platform::pixelUnder(*event);
-    if (event->buttons() == Qt::NoButton && !frame.contains(point) && !cellAt(game.board, point)) {
+    // While a button is held, Qt sends all moves to the control on which it was pressed.
+    if (event->buttons() == Qt::NoButton && !frame.contains(platform::pixelUnder(*event))) {
         Form_MouseMove();
     }
 }

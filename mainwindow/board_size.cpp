@@ -1,18 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/sizing.h"
+#include "mainwindow/board_size.h"
 
 #include <algorithm>
 
-#include "mainwindow/boardgeometry.h"
+#include "mainwindow/board/geometry.h"
 #include "rules/board.h"
 
 namespace mainwindow {
 namespace {
 
-// What the fit leaves free beside the cells, in twips.
-constexpr int margin = 600;
+constexpr int margin = 600;  // twips that stay free beside the cells
 
 int cellsWithin(int length) {
     return std::max((length - margin) / Pas, 1);
@@ -38,9 +37,9 @@ int leadingNumber(std::u16string_view text) {
     return negative ? -number : number;
 }
 
-BoardSize fitBoard(BoardSize request, const Room& room) {
-    int NbCol = std::min(std::clamp(request.NbCol, 8, 1000), cellsWithin(room.screenWidth - room.panelWidth));
-    int NbLig = std::min(std::clamp(request.NbLig, 14, 1000), cellsWithin(room.screenHeight));
+BoardSize fitBoard(BoardSize request, const Space& space) {
+    int NbCol = std::min(std::clamp(request.NbCol, 8, 1000), cellsWithin(space.screenWidth - space.panelWidth));
+    int NbLig = std::min(std::clamp(request.NbLig, 14, 1000), cellsWithin(space.screenHeight));
     while (NbCol * NbLig > rules::maxCells) {
         --(NbCol >= NbLig ? NbCol : NbLig);
     }

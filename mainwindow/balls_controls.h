@@ -9,7 +9,7 @@
 
 namespace mainwindow {
 
-/// The controls of the main window that are widgets, those of each container front to back.
+/// The controls of the window, of the end-of-game panel `Frame1` and of the side panel `Frame2`, each front to back.
 std::span<const platform::ControlRow> controlsInWindow();
 std::span<const platform::ControlRow> controlsInFrame1();
 std::span<const platform::ControlRow> controlsInFrame2();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The About window, which takes the place of the main window while it is open.
+// The About window replaces the main window on the screen while it is open.
 
 #include "about/about.h"
 #include "mainwindow/balls.h"
@@ -10,17 +10,18 @@
 namespace mainwindow {
 
 void balls::Image1_MouseDown() {
-    perform(help);
+    turns.perform(Command::help);
 }
 
 void balls::openAbout() {
-    if (About != nullptr || closing) {
+    if (About != nullptr || turns.isClosing()) {
         return;
     }
-    // Asked for while this window still stands on it.
+    // Taken before hiding, while this window is still on that screen.
     const platform::Box screen = surroundings.screen(*this);
     hide();
-    About = std::make_unique<about::About>(screen, rules::Random(rules::seedFromClock()), [this] { closeAbout(); });
+    About =
+        std::make_unique<about::About>(screen, rules::Random(surroundings.animationSeed()), [this] { closeAbout(); });
     About->show();
     About->activateWindow();
 }
@@ -29,7 +30,7 @@ void balls::closeAbout() {
     if (About == nullptr) {
         return;
     }
-    // Its own handler is still running.
+    // Deleted later, because one of its handlers is running.
     About.release()->deleteLater();
     show();
     raise();

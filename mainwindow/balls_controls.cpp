@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/layout.h"
+#include "mainwindow/balls_controls.h"
 
 #include <array>
 

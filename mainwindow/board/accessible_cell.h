@@ -5,22 +5,23 @@
 
 #include <QAccessible>
 
-#include "rules/groups.h"
+#include "rules/board.h"
 
 namespace mainwindow {
 
-class BoardCursor;
+class BoardWidget;
 
-/// A cell of the board as screen readers know it: what it holds, where it is and how large its group is. Its press
-/// action presses it as a key does.
-class BoardCell : public QAccessibleInterface, public QAccessibleTableCellInterface, public QAccessibleActionInterface {
+/// A cell of the board for screen readers. Its name says its content, its position and the size of its group; its press
+/// action plays the cell as a key does.
+class AccessibleCell : public QAccessibleInterface,
+                       public QAccessibleTableCellInterface,
+                       public QAccessibleActionInterface {
   public:
-    /// i is a cell of the board; if the board gets smaller, the interface turns invalid.
-    BoardCell(BoardCursor& board, rules::GroupSizes& sizes, rules::CellIndex i)
-        : cursor(board), groups(sizes), index(i) {}
+    /// i is a cell of the board. The interface becomes invalid if the board gets smaller than that.
+    AccessibleCell(BoardWidget& boardWidget, rules::CellIndex i) : widget(boardWidget), index(i) {}
 
-    /// Whether the name is another one than a screen reader was told last.
-    bool saysOtherwise() const { return name() != lastTold; }
+    /// Whether the name has changed since a screen reader last read it.
+    bool hasNewName() const { return name() != lastRead; }
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }
@@ -53,10 +54,9 @@ class BoardCell : public QAccessibleInterface, public QAccessibleTableCellInterf
   private:
     QString name() const;
 
-    BoardCursor& cursor;
-    rules::GroupSizes& groups;
+    BoardWidget& widget;
     rules::CellIndex index;
-    mutable QString lastTold;
+    mutable QString lastRead;
 };
 
 }  // namespace mainwindow

@@ -1,49 +1,48 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/boardtable.h"
+#include "mainwindow/board/accessible_table.h"
 
 #include <algorithm>
 #include <map>
 
 #include <QAccessible>
 #include <QAccessibleWidget>
-#include <QTimer>
 
-#include "mainwindow/boardcell.h"
-#include "mainwindow/boardcursor.h"
-#include "mainwindow/boardgeometry.h"
+#include "mainwindow/board/accessible_cell.h"
+#include "mainwindow/board/board_widget.h"
+#include "mainwindow/board/geometry.h"
 
 using namespace Qt::StringLiterals;
 
 namespace mainwindow {
 namespace {
 
-// Children are counted row by row, as readers of tables expect, and come into being when they are asked for.
-class BoardTable : public QAccessibleWidget, public QAccessibleTableInterface {
+// Children are numbered row by row, as screen readers expect of a table. Each is created at its first use.
+class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterface {
   public:
-    explicit BoardTable(BoardCursor& board) : QAccessibleWidget(&board, QAccessible::Table), cursor(board) {}
-    ~BoardTable() override { forgetCells(); }
-    Q_DISABLE_COPY_MOVE(BoardTable)
+    explicit AccessibleTable(BoardWidget& board) : QAccessibleWidget(&board, QAccessible::Table), boardWidget(board) {}
+    ~AccessibleTable() override { forgetCells(); }
+    Q_DISABLE_COPY_MOVE(AccessibleTable)
 
     QAccessibleInterface* cell(rules::CellIndex i) const {
         const auto [known, isNew] = cells.try_emplace(i, nullptr);
         if (isNew) {
-            known->second = new BoardCell(cursor, sizes, i);
+            known->second = new AccessibleCell(boardWidget, i);
             QAccessible::registerAccessibleInterface(known->second);
         }
         return known->second;
     }
 
-    void tellChanges() {
-        const rules::Board& board = cursor.board();
+    void reportChanges() {
+        const rules::Board& board = boardWidget.board();
         if (board.NbCol != columnsBefore || board.NbLig != rowsBefore) {
             forgetCells();
             columnsBefore = board.NbCol;
             rowsBefore = board.NbLig;
         }
         for (const auto& [i, cell] : cells) {
-            if (cell->saysOtherwise()) {
+            if (cell->hasNewName()) {
                 QAccessibleEvent event(cell, QAccessible::NameChanged);
                 QAccessible::updateAccessibility(&event);
             }
@@ -57,28 +56,30 @@ class BoardTable : public QAccessibleWidget, public QAccessibleTableInterface {
     QString text(QAccessible::Text kind) const override {
         return kind == QAccessible::Name ? u"Plateau"_s : QAccessibleWidget::text(kind);
     }
-    int childCount() const override { return static_cast<int>(cursor.board().cells.size()); }
+    int childCount() const override { return static_cast<int>(boardWidget.board().cells.size()); }
     QAccessibleInterface* child(int index) const override {
         const int columns = columnCount();
         return index < 0 || index >= childCount() ? nullptr : cellAt(index / columns, index % columns);
     }
     int indexOfChild(const QAccessibleInterface* child) const override {
-        const auto* cell = dynamic_cast<const BoardCell*>(child);
+        const auto* cell = dynamic_cast<const AccessibleCell*>(child);
         return cell == nullptr ? -1 : cell->rowIndex() * columnCount() + cell->columnIndex();
     }
     QAccessibleInterface* childAt(int x, int y) const override {
-        const auto found = mainwindow::cellAt(cursor.board(), cursor.window()->mapFromGlobal(QPoint(x, y)));
+        const auto found = mainwindow::cellAt(boardWidget.board(), boardWidget.mapFromGlobal(QPoint(x, y)));
         return found ? cell(*found) : nullptr;
     }
-    QAccessibleInterface* focusChild() const override { return cursor.hasFocus() ? cell(cursor.cell()) : nullptr; }
+    QAccessibleInterface* focusChild() const override {
+        return boardWidget.hasFocus() ? cell(boardWidget.cursorCell()) : nullptr;
+    }
 
-    // The toolkit does not survive an answer without a cell.
+    // Qt crashes if the answer is no cell.
     QAccessibleInterface* cellAt(int row, int column) const override {
-        const rules::Board& board = cursor.board();
+        const rules::Board& board = boardWidget.board();
         return cell(board.indexOf({std::clamp(column, 0, board.NbCol - 1), std::clamp(row, 0, board.NbLig - 1)}));
     }
-    int columnCount() const override { return cursor.board().NbCol; }
-    int rowCount() const override { return cursor.board().NbLig; }
+    int columnCount() const override { return boardWidget.board().NbCol; }
+    int rowCount() const override { return boardWidget.board().NbLig; }
     QString columnDescription(int column) const override { return u"colonne %1"_s.arg(column + 1LL); }
     QString rowDescription(int row) const override { return u"ligne %1"_s.arg(row + 1LL); }
     QAccessibleInterface* caption() const override { return nullptr; }
@@ -106,42 +107,43 @@ class BoardTable : public QAccessibleWidget, public QAccessibleTableInterface {
         cells.clear();
     }
 
-    BoardCursor& cursor;
-    mutable rules::GroupSizes sizes;
-    mutable std::map<rules::CellIndex, BoardCell*> cells;
-    int columnsBefore = cursor.board().NbCol;
-    int rowsBefore = cursor.board().NbLig;
+    BoardWidget& boardWidget;
+    mutable std::map<rules::CellIndex, AccessibleCell*> cells;
+    int columnsBefore = boardWidget.board().NbCol;
+    int rowsBefore = boardWidget.board().NbLig;
 };
 
 QAccessibleInterface* create(const QString&, QObject* object) {
-    auto* board = qobject_cast<BoardCursor*>(object);
-    return board == nullptr ? nullptr : new BoardTable(*board);
+    auto* board = qobject_cast<BoardWidget*>(object);
+    return board == nullptr ? nullptr : new AccessibleTable(*board);
 }
 
-BoardTable* tableOf(BoardCursor& board) {
-    return QAccessible::isActive() ? static_cast<BoardTable*>(QAccessible::queryAccessibleInterface(&board)) : nullptr;
+AccessibleTable* tableOf(BoardWidget& board) {
+    return QAccessible::isActive() ? static_cast<AccessibleTable*>(QAccessible::queryAccessibleInterface(&board))
+                                   : nullptr;
+}
+
+void reportFocus(BoardWidget& board) {
+    if (AccessibleTable* table = tableOf(board); table != nullptr && board.hasFocus()) {
+        QAccessibleEvent event(table->cell(board.cursorCell()), QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+void reportChanges(BoardWidget& board) {
+    if (AccessibleTable* table = tableOf(board)) {
+        table->reportChanges();
+    }
 }
 
 }  // namespace
 
-void makeBoardsAccessible() {
+void makeAccessible(BoardWidget& board) {
     QAccessible::installFactory(create);
-}
-
-void tellFocus(BoardCursor& board) {
-    // After the toolkit, which tells of the table as a whole.
-    QTimer::singleShot(0, &board, [&board] {
-        if (BoardTable* table = tableOf(board); table != nullptr && board.hasFocus()) {
-            QAccessibleEvent event(table->cell(board.cell()), QAccessible::Focus);
-            QAccessible::updateAccessibility(&event);
-        }
-    });
-}
-
-void tellChanges(BoardCursor& board) {
-    if (BoardTable* table = tableOf(board)) {
-        table->tellChanges();
-    }
+    // Queued, to follow Qt's own focus event for the table as a whole.
+    QObject::connect(
+        &board, &BoardWidget::cursorMoved, &board, [&board] { reportFocus(board); }, Qt::QueuedConnection);
+    QObject::connect(&board, &BoardWidget::boardShown, &board, [&board] { reportChanges(board); });
 }
 
 }  // namespace mainwindow

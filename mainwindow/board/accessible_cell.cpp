@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/board/accessible_cell.h"
+
+#include <QTimer>
+#include <QWindow>
+
+#include "mainwindow/board/board_widget.h"
+#include "mainwindow/board/geometry.h"
+#include "rules/group_size.h"
+
+using namespace Qt::StringLiterals;
+
+namespace mainwindow {
+namespace {
+
+QString describeContent(rules::Code code) {
+    using enum rules::Code;
+    switch (code) {
+        case red:
+            return u"boule rouge"_s;
+        case blue:
+            return u"boule bleue"_s;
+        case green:
+            return u"boule verte"_s;
+        case yellow:
+            return u"boule jaune"_s;
+        case magenta:
+            return u"boule magenta"_s;
+        case grey:
+            return u"boule grise"_s;
+        default:
+            return u"case vide"_s;
+    }
+}
+
+QString describe(const rules::Board& board, rules::CellIndex i) {
+    const auto [col, row] = board.positionOf(i);
+    const QString place = u"%1, ligne %2, colonne %3"_s.arg(describeContent(board[i])).arg(row + 1).arg(col + 1);
+    const int group = rules::groupSize(board, i);
+    return group == 0 ? place : place + u", groupe de %1"_s.arg(group);
+}
+
+}  // namespace
+
+bool AccessibleCell::isValid() const {
+    return widget.board().contains(index);
+}
+
+QWindow* AccessibleCell::window() const {
+    return widget.window()->windowHandle();
+}
+
+QAccessibleInterface* AccessibleCell::parent() const {
+    return QAccessible::queryAccessibleInterface(&widget);
+}
+
+QRect AccessibleCell::rect() const {
+    const QRect area = isValid() ? cellArea(widget.board(), index) : QRect();
+    return area.translated(widget.mapToGlobal(QPoint()));
+}
+
+QAccessible::State AccessibleCell::state() const {
+    QAccessible::State state;
+    state.focusable = true;
+    state.focused = widget.hasFocus() && widget.cursorCell() == index;
+    state.invisible = !widget.isVisible();
+    state.invalid = !isValid();
+    return state;
+}
+
+QString AccessibleCell::text(QAccessible::Text kind) const {
+    if (kind != QAccessible::Name) {
+        return {};
+    }
+    lastRead = name();
+    return lastRead;
+}
+
+QString AccessibleCell::name() const {
+    return isValid() ? describe(widget.board(), index) : QString();
+}
+
+void* AccessibleCell::interface_cast(QAccessible::InterfaceType type) {
+    switch (type) {
+        case QAccessible::TableCellInterface:
+            return static_cast<QAccessibleTableCellInterface*>(this);
+        case QAccessible::ActionInterface:
+            return static_cast<QAccessibleActionInterface*>(this);
+        default:
+            return nullptr;
+    }
+}
+
+int AccessibleCell::columnIndex() const {
+    return widget.board().positionOf(index).col;
+}
+
+int AccessibleCell::rowIndex() const {
+    return widget.board().positionOf(index).row;
+}
+
+QStringList AccessibleCell::actionNames() const {
+    return {pressAction(), setFocusAction()};
+}
+
+void AccessibleCell::doAction(const QString& action) {
+    // A move takes time, and the screen reader waits for the answer to this call.
+    QTimer::singleShot(0, &widget, [&board = widget, i = index, press = action == pressAction()] {
+        if (!board.isVisible() || !board.board().contains(i)) {
+            return;
+        }
+        if (press) {
+            emit board.played(i);
+        } else {
+            board.setFocus();
+            board.moveCursor(i);
+        }
+    });
+}
+
+}  // namespace mainwindow

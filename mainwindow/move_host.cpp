@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Zampotine developers
+// SPDX-License-Identifier: MIT
+
+// What the player sees and hears of a move.
+
+#include <QCheckBox>
+
+#include "mainwindow/balls.h"
+#include "mainwindow/board/board_widget.h"
+#include "platform/accessible_role.h"
+#include "platform/label.h"
+#include "platform/yield.h"
+
+namespace mainwindow {
+namespace {
+
+void showStatus(platform::Label& line, std::string_view utf8) {
+    line.setText(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+    platform::announce(line);
+}
+
+}  // namespace
+
+void balls::cellCleared(rules::CellIndex i) {
+    if (pace.isNew() && Check1->isChecked()) {
+        surroundings.sound.warmUp();  // the device opens while the balls vanish
+    }
+    c->noteChange(i);
+}
+
+void balls::yield() {
+    const auto wait = turns.isClosing() ? std::chrono::microseconds{} : pace.nextBall();
+    if (wait.count() == 0) {
+        platform::yield();
+    } else {
+        c->paintChanges();
+        surroundings.pause(wait);
+    }
+}
+
+void balls::scoreChanged() {
+    sc->setText(QString::number(game.score));
+    sc_Change();
+}
+
+void balls::lastMoveChanged(std::string_view text) {
+    showStatus(*l1[0], text);
+}
+
+void balls::remainingChanged(std::string_view text) {
+    showStatus(*l1[3], text);
+}
+
+void balls::PlayWave(std::string_view file) {
+    // The empty cells must be on the screen while the sound plays.
+    c->paintChanges();
+    platform::yield();
+    if (Check1->isChecked() && !turns.isClosing()) {
+        surroundings.sound.play(std::string(file));
+    }
+    // Input that arrived during the sound is handled before the end-of-game panel can open.
+    platform::yield();
+}
+
+void balls::boardSettled() {
+    c->showBoard();
+}
+
+}  // namespace mainwindow

@@ -19,7 +19,7 @@ int main(int argc, char* argv[]) {
         const QDir folder(u"%1/%2"_s.arg(QString::fromLocal8Bit(argv[1])).arg(scale));
         folder.mkpath(u"."_s);
         for (const char* ball : {"ir", "ib", "iv", "ij", "ip", "ig"}) {
-            const platform::Artwork picture = assets::picture(u"%1.gif"_s.arg(QLatin1String(ball)));
+            const platform::Picture picture = assets::picture(u"%1.gif"_s.arg(QLatin1String(ball)));
             drawn =
                 picture.inPixels(picture.size() * scale).save(folder.filePath(u"%1.png"_s.arg(QLatin1String(ball)))) &&
                 drawn;

@@ -24,12 +24,12 @@ double difference(const QPixmap& one, const QPixmap& other) {
 }
 
 TEST(Pictures, EachIsItsFileAtItsSizeAndDrawnAnewAtAnyOther) {
-    const platform::Artwork none = picture(u""_s);  // from now on the files can be listed
+    const platform::Picture none = picture(u""_s);  // from now on the files can be listed
     EXPECT_TRUE(none.inPixels(none.size()).isNull());
     const QStringList files = QDir(u":/pictures"_s).entryList();
     EXPECT_EQ(files.size(), 19);
     for (const QString& file : files) {
-        const platform::Artwork picture = assets::picture(file);
+        const platform::Picture picture = assets::picture(file);
         const QPixmap natural(u":/pictures/"_s + file);
         EXPECT_EQ(difference(picture.inPixels(natural.size()), natural), 0) << qPrintable(file);
         for (const QSize size : {natural.size() * 1.25, natural.size() * 3, natural.size() + QSize(1, 0)}) {

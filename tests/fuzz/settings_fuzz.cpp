@@ -7,7 +7,7 @@
 #include <array>
 #include <cmath>
 
-#include "settings/inifile.h"
+#include "settings/ini_file.h"
 #include "settings/number.h"
 #include "settings/store.h"
 #include "tests/fuzz/target.h"

@@ -8,7 +8,7 @@
 
 #include <QStringList>
 
-#include "mainwindow/sizing.h"
+#include "mainwindow/board_size.h"
 #include "rules/board.h"
 #include "tests/fuzz/target.h"
 
@@ -33,8 +33,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         law(mainwindow::leadingNumber(text) == plainNumber(text), "a text is the number at its start");
         return plainNumber(text);
     };
-    const mainwindow::Room room{number(2), number(3), 2670};
-    const BoardSize board = mainwindow::fitBoard({number(0), number(1)}, room);
+    const mainwindow::Space space{number(2), number(3), 2670};
+    const BoardSize board = mainwindow::fitBoard({number(0), number(1)}, space);
 
     const auto fit = [](int count, int least, int length) {
         for (count = std::clamp(count, least, 1000); count > 1 && count * 300 + 600 > length;) {
@@ -42,7 +42,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         }
         return count;
     };
-    BoardSize plain{fit(number(0), 8, room.screenWidth - room.panelWidth), fit(number(1), 14, room.screenHeight)};
+    BoardSize plain{fit(number(0), 8, space.screenWidth - space.panelWidth), fit(number(1), 14, space.screenHeight)};
     while (plain.NbCol * plain.NbLig > rules::maxCells) {
         --(plain.NbLig > plain.NbCol ? plain.NbLig : plain.NbCol);
     }

@@ -6,9 +6,9 @@
 #include <cstring>
 #include <string>
 
-#include "platform/sound_wav.h"
+#include "platform/sound/sound_file.h"
 #include "tests/fuzz/target.h"
-#include "tests/platform/wav_file.h"
+#include "tests/platform/sound/wav_file.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string file(data, data + size);

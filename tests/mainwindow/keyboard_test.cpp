@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QCheckBox>
 
-#include "mainwindow/boardcursor.h"
 #include "tests/mainwindow/world.h"
 
 namespace mainwindow {
@@ -17,7 +16,6 @@ struct KeyboardWorld : World {
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
 
-    BoardCursor* cursor() const { return window->findChild<BoardCursor*>(); }
     void key(QKeyCombination key) const { QTest::keyClick(window->focusWidget(), key.key(), key.keyboardModifiers()); }
     QImage look() const { return window->grab().toImage(); }
 };
@@ -27,14 +25,14 @@ TEST(Keyboard, FirstKeyOnlyShowsTheCursorAndTheMouseHidesIt) {
     const QImage before = world.look();
     for (const auto key : {Qt::Key_Space, Qt::Key_Up}) {
         world.key(key);
-        EXPECT_EQ(world.cursor()->cell(), 1) << "the lowest cell at the left";
+        EXPECT_EQ(world.cells()->cursorCell(), 1) << "the lowest cell at the left";
         EXPECT_NE(world.look(), before);
         world.hover({20, key == Qt::Key_Up ? 40 : 44});
         EXPECT_EQ(world.look(), before);
     }
     world.key(Qt::Key_Tab);
-    EXPECT_FALSE(world.cursor()->hasFocus());
-    EXPECT_EQ(world.game().board, picture("rb rb"));
+    EXPECT_FALSE(world.cells()->hasFocus());
+    EXPECT_EQ(world.game().board, boardOf("rb rb"));
 }
 
 TEST(Keyboard, CursorStaysOnTheBoard) {
@@ -48,13 +46,13 @@ TEST(Keyboard, CursorStaysOnTheBoard) {
     };
     for (const auto& [key, cell, what] : table) {
         world.key(key);
-        EXPECT_EQ(world.cursor()->cell(), cell) << what;
+        EXPECT_EQ(world.cells()->cursorCell(), cell) << what;
     }
-    world.cursor()->moveTo(5);
+    world.cells()->moveCursor(5);
     world.screen.Width -= 300;
     world.key(Qt::Key_F2);
-    EXPECT_EQ(world.cursor()->cell(), 3) << "on the smaller board of the next game";
-    EXPECT_TRUE(world.cursor()->hasFocus());
+    EXPECT_EQ(world.cells()->cursorCell(), 3) << "on the smaller board of the next game";
+    EXPECT_TRUE(world.cells()->hasFocus());
 }
 
 TEST(Keyboard, SpaceAndEnterPressTheCellOnce) {
@@ -62,13 +60,13 @@ TEST(Keyboard, SpaceAndEnterPressTheCellOnce) {
         KeyboardWorld world("rb br br");
         world.key(key);
         QKeyEvent held(QEvent::KeyPress, key, {}, {}, true);
-        QCoreApplication::sendEvent(world.cursor(), &held);
-        EXPECT_EQ(world.game().board, picture("rb br br")) << "shown, and held";
+        QCoreApplication::sendEvent(world.cells(), &held);
+        EXPECT_EQ(world.game().board, boardOf("rb br br")) << "shown, and held";
         world.key(key);
-        EXPECT_EQ(world.game().board, picture(".b .r rr")) << "pressed";
-        world.cursor()->moveTo(0);
+        EXPECT_EQ(world.game().board, boardOf(".b .r rr")) << "pressed";
+        world.cells()->moveCursor(0);
         world.key(key);
-        EXPECT_EQ(world.game().board, picture(".b .r rr")) << "an empty cell";
+        EXPECT_EQ(world.game().board, boardOf(".b .r rr")) << "an empty cell";
     }
 }
 
@@ -85,7 +83,7 @@ TEST(Keyboard, LetterKeysDealAndSwitchTheSoundAndAHeldKeyLeavesAboutOpen) {
     KeyboardWorld world("rb rb");
     world.press(0);
     world.key(Qt::CTRL | Qt::Key_N);
-    EXPECT_EQ(world.game().board, picture("rb rb"));
+    EXPECT_EQ(world.game().board, boardOf("rb rb"));
     const bool sound = world.control<QCheckBox>("Check1")->isChecked();
     world.key(Qt::CTRL | Qt::Key_S);
     EXPECT_NE(world.control<QCheckBox>("Check1")->isChecked(), sound);

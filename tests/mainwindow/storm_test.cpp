@@ -10,9 +10,8 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "mainwindow/boardcursor.h"
 #include "platform/process.h"
-#include "rules/outcome.h"
+#include "rules/points.h"
 #include "tests/mainwindow/world.h"
 #include "tests/rules/plain.h"
 
@@ -102,7 +101,7 @@ struct Storm : World {
     void ask() {
         const int n = oneOf(numbers);
         const int m = oneOf(numbers);
-        auto* it = QAccessible::queryAccessibleInterface(draw(2) == 0 ? window->findChild<BoardCursor*>() : shown());
+        auto* it = QAccessible::queryAccessibleInterface(draw(2) == 0 ? cells() : shown());
         for (int deep = draw(4); deep > 0 && it->childCount() > 0; --deep) {
             it = it->child(draw(it->childCount()));
         }
@@ -147,7 +146,7 @@ struct Storm : World {
         EXPECT_EQ(std::ssize(settled.cells) - std::ranges::count(settled.cells, rules::Code::none), game().Total);
         EXPECT_EQ(text("sc"), std::to_string(score)) << "the sum of the moves";
         EXPECT_TRUE(game().Total <= 1 || !control<QWidget>("Frame1")->isVisible()) << "the panel of a game before";
-        EXPECT_TRUE(game().board.contains(window->findChild<BoardCursor*>()->cell()));
+        EXPECT_TRUE(game().board.contains(cells()->cursorCell()));
         for (int level = 0; level < 5; ++level) {
             const auto now = std::atoll(stored(std::to_string(level).c_str()).c_str());
             EXPECT_TRUE(now == best.at(level) || wasReset) << "best score " << now << ", not " << best.at(level);

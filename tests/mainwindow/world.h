@@ -16,16 +16,17 @@
 #include <gtest/gtest.h>
 
 #include "mainwindow/balls.h"
+#include "mainwindow/board/board_widget.h"
 #include "platform/controls.h"
 #include "platform/text_box.h"
 #include "rules/deal.h"
 #include "rules/move.h"
-#include "tests/rules/pictures.h"
+#include "tests/rules/board_text.h"
 
 namespace mainwindow {
 
 using namespace Qt::StringLiterals;
-using rules::picture;
+using rules::boardOf;
 
 struct RecordedSound : platform::Sound {
     int warmUps = 0;
@@ -54,12 +55,13 @@ struct World {
     /// seed that deals it.
     void open(const char* board = nullptr) {
         if (board != nullptr) {
-            arrange(picture(board));
+            arrange(boardOf(board));
         }
         window = std::make_unique<balls>(Surroundings{
             store,
             sound,
             nextSeed,
+            rules::seedFromClock,
             [this](const QWidget&) { return screen; },
             [this](std::chrono::microseconds) {
                 ++pauses;
@@ -71,6 +73,7 @@ struct World {
     }
 
     const rules::Game& game() const { return window->currentGame(); }
+    BoardWidget* cells() const { return control<BoardWidget>("c"); }
     std::string stored(const char* key) const {
         return store.read(u"init"_s, QString::fromLatin1(key), u"absent"_s).toStdString();
     }
@@ -96,7 +99,7 @@ struct World {
     /// Presses on cell i where the player sees it.
     void press(int i, Qt::MouseButton button = Qt::LeftButton) const {
         const auto [col, row] = game().board.positionOf(static_cast<rules::CellIndex>(i));
-        QTest::mousePress(window.get(), button, {}, {33 + 20 * col + 10, 33 + 20 * row + 10});
+        QTest::mousePress(cells(), button, {}, {3 + 20 * col + 10, 3 + 20 * row + 10});
     }
 
     /// Presses a group; false if there is none.

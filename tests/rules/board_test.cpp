@@ -3,13 +3,14 @@
 
 #include "rules/board.h"
 
-#include "tests/rules/pictures.h"
+#include "rules/group_size.h"
+#include "tests/rules/board_text.h"
 
 namespace rules {
 namespace {
 
 TEST(Board, TextFormShowsRowsFromTheTopAndComesBack) {
-    const Board board = picture("r.b .vj pg.");
+    const Board board = boardOf("r.b .vj pg.");
     EXPECT_EQ(board.cells, (std::vector{Code::red, Code::none, Code::magenta, Code::none, Code::green, Code::grey,
                                         Code::blue, Code::yellow, Code::none}));
     EXPECT_EQ(print(board), "r.b\n.vj\npg.\n");
@@ -22,6 +23,13 @@ TEST(Board, TextThatShowsNoBoardIsRefused) {
         EXPECT_FALSE(parse(text)) << text.substr(0, 20);
     }
     EXPECT_TRUE(parse(std::string(32767, 'r')));
+}
+
+TEST(Groups, AreConnectedByNeighboursOfOneColourAndNotAcrossEdgesOrCorners) {
+    const Board board = boardOf("rbr .rr rbb");
+    for (CellIndex i = 0; const int size : {1, 0, 1, 1, 3, 2, 3, 3, 2}) {  // column by column
+        EXPECT_EQ(groupSize(board, i++), size) << "before cell " << i;
+    }
 }
 
 }  // namespace

@@ -5,12 +5,12 @@
 
 #include <set>
 
-#include "tests/rules/pictures.h"
+#include "tests/rules/board_text.h"
 
 namespace rules {
 namespace {
 
-Game dealt(int NbCol, int NbLig, int Diff, const Draw& draw) {
+Game dealt(int NbCol, int NbLig, int Diff, const RandomSource& draw) {
     Game game;
     resizeBoard(game, NbCol, NbLig);
     deal(game, Diff, draw);
@@ -18,10 +18,10 @@ Game dealt(int NbCol, int NbLig, int Diff, const Draw& draw) {
 }
 
 TEST(Deal, FilledCellsPassTheBallOnAndTheLastOnePassesItToTheFirst) {
-    EXPECT_EQ(dealt(3, 2, 0, [] { return 0.0F; }).board, picture("rrr bbb"));
-    EXPECT_EQ(dealt(0, -1, 0, [] { return 0.0F; }).board, picture("r")) << "a board without cells";
+    EXPECT_EQ(dealt(3, 2, 0, [] { return 0.0F; }).board, boardOf("rrr bbb"));
+    EXPECT_EQ(dealt(0, -1, 0, [] { return 0.0F; }).board, boardOf("r")) << "a board without cells";
     const float justBelowOne = 0x1.fffffep-1F;
-    EXPECT_EQ(dealt(3, 2, 1, [=] { return justBelowOne; }).board, picture("brv vbr"));
+    EXPECT_EQ(dealt(3, 2, 1, [=] { return justBelowOne; }).board, boardOf("brv vbr"));
 }
 
 TEST(Deal, StartsAnewAfterAGame) {

@@ -28,7 +28,7 @@ inline std::string playedGame(bool isPlain, int seed, int NbCol, int NbLig, int 
     text << "seed " << seed << ": " << NbCol << " x " << NbLig << ", level " << Diff;
     Random random(static_cast<std::uint64_t>(seed));
     Game game{.board = emptyBoard(NbCol, NbLig)};
-    (isPlain ? plain::deal : deal)(game, Diff, std::ref(random));
+    deal(game, Diff, std::ref(random));
     std::vector<CellIndex> removed;
     for (int presses = 0, tried = 0;; ++presses) {
         std::uint64_t hash = 0xCBF29CE484222325U;

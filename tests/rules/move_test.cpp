@@ -3,7 +3,7 @@
 
 #include "rules/move.h"
 
-#include "tests/rules/pictures.h"
+#include "tests/rules/board_text.h"
 #include "tests/rules/recorder.h"
 
 namespace rules {
@@ -33,7 +33,7 @@ TEST(Move, EventsComeInTheOrderThePlayerSeesThem) {
          "0 yield 1 yield [1004] 2 balles crevées (4 points.) son2.WAV Il reste 2 balles sur 4. settled "},
     };
     for (const Row& row : table) {
-        Game game = gameOn(picture(row.before));
+        Game game = gameOn(boardOf(row.before));
         game.score = 1000;
         Recorder host(game);
         playMove(game, row.press, host);

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "rules/outcome.h"
-
 #include <gtest/gtest.h>
+
+#include "rules/points.h"
+#include "rules/sound_choice.h"
+#include "rules/status_lines.h"
 
 namespace rules {
 namespace {

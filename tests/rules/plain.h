@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "rules/game.h"
-#include "rules/random.h"
 
 /// The rules in their plainest form, pass by pass and cell by cell: too slow or too deep to play with, simple
 /// enough to be trusted. What the game runs on must equal them.
@@ -82,20 +81,6 @@ inline std::vector<CellIndex> press(rules::Game& game, int i) {
     game.Total = index(game.Total - static_cast<int>(removed.size()));
     game.score *= game.Total == 0 ? 2 : 1;
     return removed;
-}
-
-/// Fills the game's board, walking over the filled cells.
-inline void deal(rules::Game& game, int Diff, const rules::Draw& draw) {
-    const int cells = game.board.NbCol * game.board.NbLig;
-    game.Total = game.NBBoules = index(cells);
-    std::ranges::fill(game.board.cells, Code::none);
-    for (int ball = 0; ball < cells; ++ball) {
-        int p = static_cast<int>(static_cast<double>(draw()) * cells);
-        while (game.board[index(p)] != Code::none) {
-            p = p + 1 == cells ? 0 : p + 1;
-        }
-        game.board[index(p)] = rules::codes[ball % (Diff + 2)];
-    }
 }
 
 }  // namespace plain

@@ -27,7 +27,7 @@ struct Recorder : Host {
     void scoreChanged() override { events += "[" + std::to_string(game.score) + "] "; }
     void lastMoveChanged(std::string_view text) override { events.append(text) += ' '; }
     void remainingChanged(std::string_view text) override { events.append(text); }
-    void playWave(std::string_view file) override { events.append(file) += ' '; }
+    void PlayWave(std::string_view file) override { events.append(file) += ' '; }
     void boardSettled() override { events += " settled "; }
     void gameEnded() override { events += "ended"; }
 };

@@ -13,8 +13,8 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/bestscores.h"
-#include "settings/inifile.h"
+#include "settings/best_scores.h"
+#include "settings/ini_file.h"
 #include "tests/settings/folder.h"
 
 namespace {
@@ -33,12 +33,12 @@ struct Game {
         folder.put(backup, u".bak"_s);
         QFile::setPermissions(folder.ini, QFile::Permissions::fromInt(0x604));
         plan() = planned;
-        settings::BestScores scores(store);
+        settings::BestScores scores(store, 5);
         const std::vector<std::function<void()>> changes{
             [&] { scores.load(); },
-            [&] { scores.sc_Change(0, u"130"_s); },
+            [&] { scores.raise(0, u"130"_s); },
             [&] { store.write(init, col, u"40"_s); },
-            [&] { scores.sc_Change(3, u"7"_s); },
+            [&] { scores.raise(3, u"7"_s); },
             [&] { scores.reset(1); },
             [&] { store.flush(); },
         };

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "settings/inifile.h"
+#include "settings/ini_file.h"
 
 #include <utility>
 #include <vector>

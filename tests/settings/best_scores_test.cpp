@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "settings/bestscores.h"
+#include "settings/best_scores.h"
 
 #include <array>
 #include <vector>
@@ -16,7 +16,7 @@ namespace {
 struct BestScores : testing::Test {
     Folder folder;
     settings::Store store{folder.ini};
-    settings::BestScores scores{store};
+    settings::BestScores scores{store, 5};
 };
 
 TEST(Number, IsReadStrictlyAndSpeltPlainly) {
@@ -35,16 +35,16 @@ TEST_F(BestScores, FollowAScoreThatPassesThemOrAnotherCopysThatIsAsHighAndAReset
         SCOPED_TRACE(testing::PrintToString(stored) + " and " + testing::PrintToString(score));
         folder.put("[init]\n0=" + stored.toUtf8() + "\n4=40\n");
         scores.load();
-        scores.sc_Change(0, score);
+        scores.raise(0, score);
         EXPECT_EQ(scores.hsc(0), best);
         EXPECT_EQ(scores.hsc(4), u"40"_s);
         EXPECT_EQ(folder.bytes(), "[init]\n0=" + best.toUtf8() + "\n4=40\n");
         scores.reset(0);
         EXPECT_EQ(folder.bytes(), "[init]\n0=0\n4=40\n");
-        scores.sc_Change(0, u"2"_s);
+        scores.raise(0, u"2"_s);
         EXPECT_EQ(folder.bytes(), "[init]\n0=2\n4=40\n");
         folder.put("[init]\n0=130.0\n4=40\n");  // by another copy
-        scores.sc_Change(0, u"130"_s);
+        scores.raise(0, u"130"_s);
         EXPECT_EQ(scores.hsc(0), u"130.0"_s);
     }
 }
@@ -53,7 +53,7 @@ TEST_F(BestScores, OtherLevelsHaveNone) {
     folder.put("[init]\n-1=8\n5=9\n");
     for (const int level : {-1, 5}) {
         scores.load(level);
-        scores.sc_Change(level, u"10"_s);
+        scores.raise(level, u"10"_s);
         scores.reset(level);
         EXPECT_EQ(scores.hsc(level), u"0"_s);
     }

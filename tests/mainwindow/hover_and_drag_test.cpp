@@ -9,7 +9,7 @@ namespace {
 
 // The buttons that show their hover face, by their index.
 std::string lit(const World& world) {
-    const platform::Artwork hoverFace = world.control<platform::PictureBox>("BTN", 1)->picture();
+    const platform::Picture hoverFace = world.control<platform::PictureBox>("BTN", 1)->picture();
     std::string found;
     for (int i = 0; i < 3; ++i) {
         if (world.control<platform::PictureBox>("ImBTN", i)->picture() == hoverFace) {
@@ -19,7 +19,7 @@ std::string lit(const World& world) {
     return found;
 }
 
-TEST(Feedback, ButtonsAndPreviewFollowThePointer) {
+TEST(HoverAndDrag, ButtonsAndPreviewFollowThePointer) {
     World world;
     world.set("0", "10");
     world.set("3", "40");
@@ -42,7 +42,7 @@ TEST(Feedback, ButtonsAndPreviewFollowThePointer) {
     }
 }
 
-TEST(Feedback, OnlyTheBackgroundOfTheWindowAnswersTheMouse) {
+TEST(HoverAndDrag, OnlyTheBackgroundOfTheWindowAnswersTheMouse) {
     World world;
     world.set("3", "40");
     world.open();
@@ -64,7 +64,7 @@ TEST(Feedback, OnlyTheBackgroundOfTheWindowAnswersTheMouse) {
     EXPECT_EQ(lit(world), "") << "a press on a cell";
 }
 
-TEST(Feedback, DragLastsFromThePressToTheReleaseOfItsButton) {
+TEST(HoverAndDrag, DragLastsFromThePressToTheReleaseOfItsButton) {
     World world;
     world.open("rb rb");
     auto& window = *world.window;
@@ -90,9 +90,9 @@ TEST(Feedback, DragLastsFromThePressToTheReleaseOfItsButton) {
     EXPECT_EQ(mouse(Type::MouseMove, {5, 5}, {}, {}), QPoint()) << "the release was heard by nobody";
     EXPECT_EQ(mouse(Type::MouseMove, {6, 6}, {}, left), QPoint()) << "and the drag is over";
     mouse(Type::MouseButtonPress, {}, left, left);
-    EXPECT_EQ(world.game().board, picture("rb rb"));
+    EXPECT_EQ(world.game().board, boardOf("rb rb"));
     world.press(0);
-    EXPECT_EQ(world.game().board, picture("b. b.")) << "nor was this one, as the press tells";
+    EXPECT_EQ(world.game().board, boardOf("b. b.")) << "nor was this one, as the press tells";
 }
 
 }  // namespace

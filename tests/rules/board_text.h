@@ -19,7 +19,7 @@ inline void PrintTo(const Board& board, std::ostream* out) {
 }
 
 /// The board that a picture shows, its rows separated by blanks: "rb .v" has two columns and two rows.
-inline Board picture(std::string text) {
+inline Board boardOf(std::string text) {
     std::ranges::replace(text, ' ', '\n');
     const auto board = parse(text);
     EXPECT_TRUE(board) << "not a board: " << text;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/removalpace.h"
+#include "mainwindow/removal_pace.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "animation/pace.h"
+#include "animation/frame_pace.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +12,8 @@ using namespace std::chrono_literals;
 
 TEST(Pace, PassesAre240ASecondHoweverTheTimerFires) {
     for (const auto interval : {1ms, 7ms, 16ms, 17ms, 33ms, 49ms}) {
-        const Pace::Time start{};
-        Pace pace(start);
+        const FramePace::Time start{};
+        FramePace pace(start);
         int passes = 0;
         for (auto elapsed = 0ms; elapsed <= 10s; elapsed += interval) {
             passes += pace.passesDue(start + elapsed);
@@ -23,8 +23,8 @@ TEST(Pace, PassesAre240ASecondHoweverTheTimerFires) {
 }
 
 TEST(Pace, FramesAreSixtyASecondAndFourPassesEach) {
-    Pace::Time now{};
-    Pace pace(now);
+    FramePace::Time now{};
+    FramePace pace(now);
     for (int frame = 0; frame < 60; ++frame) {
         now = pace.nextFrame();
         EXPECT_EQ(pace.passesDue(now), 4);
@@ -33,8 +33,8 @@ TEST(Pace, FramesAreSixtyASecondAndFourPassesEach) {
 }
 
 TEST(Pace, LongPauseIsNotMadeUpFor) {
-    Pace::Time now{};
-    Pace pace(now);
+    FramePace::Time now{};
+    FramePace pace(now);
     now += 1h;
     EXPECT_EQ(pace.passesDue(now), 12);
     EXPECT_EQ(pace.passesDue(now), 0);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/sound.h"
+#include "platform/sound/sound.h"
 
 #include <array>
 #include <csignal>
@@ -14,8 +14,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/sound_file.h"
-#include "tests/platform/wav_file.h"
+#include "platform/sound/sound_file.h"
+#include "tests/platform/sound/wav_file.h"
 
 namespace {
 

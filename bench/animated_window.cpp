@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// Shows one animation, or what the toolkit takes for as much: for measuring the processor time of it.
+// Shows one animation, or a window that repaints an area of the same size, to compare their processor time.
 //
 // Usage: animated_window panel|about|repainting WIDTH HEIGHT [hidden]
 
@@ -11,16 +11,14 @@
 #include <optional>
 
 #include <QApplication>
-#include <QMouseEvent>
 #include <QTimer>
 
 #include "about/about.h"
 #include "bench/idle_host.h"
-#include "bench/quiet_window.h"
-#include "mainwindow/boardgeometry.h"
 #include "platform/look.h"
 #include "rules/deal.h"
 #include "rules/move.h"
+#include "tests/mainwindow/world.h"
 
 namespace {
 
@@ -62,15 +60,14 @@ struct EndingGame {
 };
 
 // The window with the panel of a game that has ended.
-struct EndedGame {
-    EndingGame game{25, 25};
-    QuietWindow window{25, 25, {0, 0, 48'000, 36'000}, [this] { return game.seed; }};
-
+struct EndedGame : mainwindow::World {
     EndedGame() {
-        for (const rules::CellIndex i : game.presses) {
-            const QPointF point = mainwindow::cellArea(window->currentGame().board, i).center();
-            QMouseEvent press(QEvent::MouseButtonPress, point, point, Qt::LeftButton, Qt::LeftButton, {});
-            QCoreApplication::sendEvent(&*window, &press);
+        const EndingGame ending(25, 25);
+        seed = ending.seed;
+        screen = {0, 0, 48'000, 36'000};
+        open();
+        for (const rules::CellIndex i : ending.presses) {
+            press(i);
         }
     }
 };

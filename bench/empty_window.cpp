@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// What the toolkit costs without a game: an empty window of the same size.
+// The cost of Qt without a game: an empty window of the same size.
 
 #include <QApplication>
 #include <QWidget>

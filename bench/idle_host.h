@@ -5,14 +5,14 @@
 
 #include "rules/host.h"
 
-/// Lets a move be played and shows nothing of it.
+/// A host that shows nothing.
 struct IdleHost : rules::Host {
     void cellCleared(rules::CellIndex) override {}
     void yield() override {}
     void scoreChanged() override {}
     void lastMoveChanged(std::string_view) override {}
     void remainingChanged(std::string_view) override {}
-    void playWave(std::string_view) override {}
+    void PlayWave(std::string_view) override {}
     void boardSettled() override {}
     void gameEnded() override {}
 };

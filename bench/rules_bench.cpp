@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The rules at work, each beside what it is compared with. bench/run.py prints the ratios.
+// Benchmarks of the rules. bench/run.py prints their ratios.
 
 #include <benchmark/benchmark.h>
 
 #include "bench/idle_host.h"
-#include "rules/deal.h"
 #include "rules/move.h"
 #include "rules/settle.h"
 #include "tests/rules/plain.h"
@@ -52,25 +51,6 @@ void removing(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(board.cells.size()));
 }
 BENCHMARK(removing)->Name("remove")->Args({25, 25})->Args({217, 151});
-
-void dealing(benchmark::State& state) {
-    rules::Game game;
-    rules::resizeBoard(game, 217, 151);
-    for (auto _ : state) {
-        rules::deal(game, 4, rules::Random(1));
-        benchmark::DoNotOptimize(game.board.cells.data());
-    }
-}
-BENCHMARK(dealing)->Name("deal");
-
-void dealingPlain(benchmark::State& state) {
-    rules::Game game{.board = rules::emptyBoard(217, 151)};
-    for (auto _ : state) {
-        plain::deal(game, 4, rules::Random(1));
-        benchmark::DoNotOptimize(game.board.cells.data());
-    }
-}
-BENCHMARK(dealingPlain)->Name("deal plain");
 
 }  // namespace
 

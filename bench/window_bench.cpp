@@ -1,44 +1,84 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// A new game on the largest board, until it is painted, beside one repaint of the same board.
+// A new game and a repaint on the largest board, beside a repaint that blends the balls one by one.
 
-#include <QApplication>
-#include <QWindow>
+#include <QPainter>
 #include <benchmark/benchmark.h>
 
-#include "bench/quiet_window.h"
+#include "assets/pictures.h"
 #include "platform/look.h"
-#include "rules/random.h"
+#include "tests/mainwindow/world.h"
 
 namespace {
 
-// The window on a screen that holds the largest board, shown and painted.
-struct LargestWindow : QuietWindow {
-    LargestWindow() : QuietWindow(217, 151, {0, 0, 100'000, 100'000}, rules::seedFromClock) {
-        (*this)->show();
-        while (!(*this)->windowHandle()->isExposed()) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+void waitUntilExposed(QWidget& widget) {
+    widget.show();
+    while (!widget.windowHandle()->isExposed()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
+
+// The window with the largest board, on a screen that holds it.
+struct LargestWindow : mainwindow::World {
+    LargestWindow() {
+        set("Col", "217");
+        set("Lig", "151");
+        set("Niveau", "4");
+        screen = {0, 0, 100'000, 100'000};
+        open();
+        waitUntilExposed(*window);
+    }
+};
+
+// Paints a ball of each colour in turn on as many cells, blended with the background.
+struct BlendedBoard : QWidget {
+    std::vector<QPixmap> balls;
+
+    explicit BlendedBoard(QSize size) {
+        setFixedSize(size);
+        for (const rules::Code code : rules::codes) {
+            const QString file = QStringLiteral("i%1.gif").arg(QLatin1Char(static_cast<char>(code)));
+            const platform::Picture ball = assets::picture(file);
+            balls.push_back(ball.inPixels(ball.size()));
+        }
+        waitUntilExposed(*this);
+    }
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        for (int i = 0; i < rules::maxCells; ++i) {
+            painter.drawPixmap(33 + 20 * (i / 151), 33 + 20 * (i % 151), balls[i % balls.size()]);
         }
     }
 };
 
-void repaint(benchmark::State& state) {
-    LargestWindow window;
+template <typename Widget>
+void repaint(benchmark::State& state, Widget& widget) {
     for (auto _ : state) {
-        window->repaint();
+        widget.repaint();
         QCoreApplication::processEvents();
     }
 }
-BENCHMARK(repaint)->Name("repaint")->Unit(benchmark::kMillisecond);
+
+void repaintBoard(benchmark::State& state) {
+    const LargestWindow world;
+    repaint(state, *world.window);
+}
+BENCHMARK(repaintBoard)->Name("repaint")->Unit(benchmark::kMillisecond);
+
+void repaintBlended(benchmark::State& state) {
+    BlendedBoard board(QSize(4578, 3087));
+    repaint(state, board);
+}
+BENCHMARK(repaintBlended)->Name("blended repaint")->Unit(benchmark::kMillisecond);
 
 void newGame(benchmark::State& state) {
-    LargestWindow window;
+    const LargestWindow world;
     for (auto _ : state) {
-        window->ImBTN_Click(0);
+        world.window->ImBTN_Click(0);
         QCoreApplication::processEvents();
     }
-    if (window->currentGame().NBBoules != rules::maxCells) {
+    if (world.game().NBBoules != rules::maxCells) {
         state.SkipWithError("not the largest board");
     }
 }

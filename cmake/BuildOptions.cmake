@@ -1,12 +1,12 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# How every target of the project is compiled: linked privately, so that nothing leaks to users of a library.
+# Compiler options of every target. They are linked privately, so that users of a library do not inherit them.
 add_library(build_options INTERFACE)
 target_include_directories(build_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_definitions(build_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
 
-# Warnings and hardening go before the flags of whoever builds the game (CXXFLAGS, LDFLAGS): where two flags disagree,
+# Warnings and hardening go before the flags of the builder (CXXFLAGS, LDFLAGS): if two flags disagree,
 # the compiler takes the last.
 set(warnings
     -Wall
@@ -15,7 +15,7 @@ set(warnings
     -Wshadow
     -Wconversion
     -Wno-sign-conversion # cell indices are never negative
-    -Wno-missing-field-initializers # what a designated initializer leaves out has its default
+    -Wno-missing-field-initializers # members that a designated initializer omits have defaults
     -Wold-style-cast
     -Wnon-virtual-dtor
     -Woverloaded-virtual
@@ -23,8 +23,8 @@ set(warnings
     -Wimplicit-fallthrough)
 set(hardening)
 
-# A release hides the folder it was built in and makes faults hard to exploit: it guards the stack, the linkage table
-# and the standard functions, and its addresses change from run to run.
+# A release does not contain the path of its build folder, and it is hardened: it guards the stack, the linkage table and
+# the standard functions, and its addresses are random.
 string(TOUPPER "${CMAKE_BUILD_TYPE}" build_type)
 if(build_type STREQUAL "RELEASE")
   include(CheckCXXCompilerFlag)
@@ -36,7 +36,7 @@ if(build_type STREQUAL "RELEASE")
       list(APPEND hardening ${flag})
     endif()
   endforeach()
-  # The compiler or the builder's flags may have chosen a level already. Without optimisation no level works.
+  # The compiler or the builder's flags may already set a level. Without optimisation no level works.
   unset(fortify_source_is_free CACHE) # because the flags may have changed
   check_cxx_source_compiles(
     "#if defined _FORTIFY_SOURCE || !defined __OPTIMIZE__
@@ -49,8 +49,7 @@ if(build_type STREQUAL "RELEASE")
   endif()
   target_compile_options(build_options INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
   string(PREPEND CMAKE_EXE_LINKER_FLAGS "-pie -Wl,-z,relro,-z,now ")
-  # The toolkit's variables must stay in its libraries: -fPIE would let the link-time optimiser copy them to the
-  # program.
+  # With -fPIE the link-time optimiser would copy variables of Qt's libraries to the program.
   target_link_options(build_options INTERFACE -fPIC)
 endif()
 list(JOIN warnings " " warnings)
@@ -59,7 +58,7 @@ string(PREPEND CMAKE_CXX_FLAGS "${warnings} ${hardening} ")
 
 if(ZAMPOTINE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  # All that is compiled counts what it runs, so that the fuzzers find their way through the libraries too.
+  # Coverage counters in all code guide the fuzzers through the libraries too.
   target_compile_options(build_options INTERFACE ${sanitizers} -fsanitize=fuzzer-no-link)
   target_link_options(build_options INTERFACE ${sanitizers})
 endif()

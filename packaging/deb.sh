@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Builds the Debian package: the same byte for byte in every folder, unless SOURCE_DATE_EPOCH gives it another date.
+# Builds the Debian package, with the same bytes in every folder unless SOURCE_DATE_EPOCH sets another date.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=scripts/steps.sh

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# The Debian package. What CPack leaves out of it, finish.cmake adds.
+# The Debian package. finish.cmake adds the files that CPack does not make.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "The Zampotine developers <${ZAMPOTINE_AUTHOR_MAIL}>")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
@@ -20,7 +20,7 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# None of them shows in the program: libraries are loaded when they are first used, and a font is data.
+# shlibdeps cannot see these: they are loaded at run time, or are fonts.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libsdl2-2.0-0, librsvg2-2, fonts-liberation")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "puzzle of coloured balls")

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Removes what the last installation wrote, and the folders of the game itself unless something else lies there.
+# Removes the files of the last installation, and the game's own folders if they are then empty.
 if(NOT EXISTS ${MANIFEST})
   message(FATAL_ERROR "Nothing was installed from here: there is no ${MANIFEST}.")
 endif()

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Installs the Debian packages of the named purposes, as far as they are missing: scripts/install.sh build game
+# Installs the missing Debian packages for the named purposes: scripts/install.sh build game
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=scripts/steps.sh
@@ -22,13 +22,13 @@ declare -A packages=(
     [lint]='git clang-format clang-tidy shellcheck pyflakes3'
     [art]='librsvg2-bin imagemagick icoutils sox'
     [root]='git mmdebstrap mount'
-    [bench]='libbenchmark-dev python3-xlib xvfb xdotool'
+    [bench]='libbenchmark-dev libgtest-dev python3-xlib xvfb xdotool'
 )
 
 # The packages among the given ones that are not installed, in one line.
 missing_of() {
     local installed
-    # The query fails as soon as one package is unknown; what it lists counts.
+    # The query fails if one package is unknown, but it still lists the others.
     installed=$(dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null) || true
     printf '%s installed\n' "$@" | sort -u | { grep -vxF -e "$installed" || true; } | cut -d' ' -f1 | paste -sd' '
 }
@@ -48,7 +48,7 @@ for purpose; do
 done
 
 if ! command -v apt-get >/dev/null; then
-    say "This system has no apt-get, so nothing is installed; Debian's names of what is needed: ${wanted[*]}."
+    say "This system has no apt-get, so nothing is installed. The needed packages have these names in Debian: ${wanted[*]}."
     exit 0
 fi
 missing=$(missing_of "${wanted[@]}")
@@ -58,11 +58,11 @@ by_hand="have an administrator run: apt-get install --no-install-recommends $mis
 if [[ $EUID != 0 ]]; then
     command -v sudo >/dev/null || fail "Packages are missing, and there is neither root nor sudo to install them; $by_hand"
     say "Packages are missing; sudo may ask for your password to install them."
-    sudo -v || fail "Packages are missing, and sudo did not let them be installed; $by_hand"
+    sudo -v || fail "Packages are missing, and sudo refused to install them; $by_hand"
 fi
 say "Installing packages: $missing."
-# Without new lists the old ones may still do; the installation tells.
-logged apt-update apt update || say "The lists of packages could not be brought up to date; going on with the old ones."
+# The old package lists may be good enough. If they are not, the installation fails below.
+logged apt-update apt update || say "The package lists could not be updated, so the old ones are used."
 read -ra list <<<"$missing"
 logged apt-install apt install --no-install-recommends "${list[@]}" ||
-    fail "Missing, and could not be installed: $missing. Check the network, and that this is Debian 12 or newer, then run this again (all of it in build/apt-install.log)."
+    fail "These packages are missing and could not be installed: $missing. Check the network, check that this is Debian 12 or newer, then run this again (see build/apt-install.log)."

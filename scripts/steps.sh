@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 
 # shellcheck shell=bash
-# How the project's scripts speak: one sentence a step, the noise in a log, and on failure what to do.
+# Messages of the project's scripts: one sentence for each step, details in a log, and help after a failure.
 
 say() {
     printf '%s\n' "$*"
@@ -13,8 +13,8 @@ fail() {
     exit 1
 }
 
-# logged NAME COMMAND... runs the command with its output in build/NAME.log. If it fails, so does this,
-# after it has shown the errors in the log, or its end if none can be told apart.
+# logged NAME COMMAND... runs the command with its output in build/NAME.log. If the command fails, prints the errors in
+# the log, or the end of the log if it finds none, and fails too.
 logged() {
     local log=build/$1.log
     shift

@@ -2,10 +2,10 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Tries what is committed on another release of Debian, as a new user would: makes a bare system of that release from
-# the mirror of this machine, clones into it, and runs ./play and ./check there. The picture and the logs are left in
-# build/debian-RELEASE. The system ends with this script, even if that is killed: scripts/try_debian.sh trixie
-# With --dry-run after the release, it only checks whether such a system could be made.
+# Tries the last commit on another release of Debian, as a new user would: makes a bare system of that release from the
+# package mirror of this machine, clones the project into it, and runs ./play and ./check there. Keeps the screenshot and
+# the logs in build/debian-RELEASE, and nothing else, even if this script is killed: scripts/try_debian.sh trixie
+# With --dry-run after the release, only checks whether such a system can be made.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=scripts/steps.sh
@@ -16,7 +16,7 @@ folder=build/debian-$release
 root=$folder/root
 clone=home/player/zampotine
 
-# How apt reaches the mirrors, and whether it accepts old lists.
+# The settings of apt for proxies and for the age of package lists.
 apt_settings() {
     local scheme proxy
     for scheme in http https; do
@@ -26,7 +26,7 @@ apt_settings() {
     apt-config dump | grep -E '^Acquire::(https?::Proxy(::| )|Check-(Date|Valid-Until) )' || true
 }
 
-# The mounts are below a private one, because in a chroot they could otherwise outlive the namespaces.
+# All mounts are under a private mount, because inside a chroot they could otherwise remain after the namespaces end.
 make_root() {
     mkdir -p "$root" "$folder/tmp" && mount --bind "$root" "$root" && mount --make-private "$root" &&
         apt_settings >"$folder/tmp/apt.conf" &&
@@ -48,26 +48,26 @@ make_clone() {
         chroot "$root" chown -R player: "/$clone"
 }
 
-# The part that runs in namespaces of its own.
+# This part runs in its own namespaces.
 inside() {
     local archive=$1 command status
     say "Making a bare system of Debian $release."
     logged "debian-$release/root" make_root "$archive" ||
-        fail "The system could not be made (all of it in $folder/root.log)."
-    logged "debian-$release/clone" make_clone || fail "The clone could not be made (all of it in $folder/clone.log)."
+        fail "The system could not be made (see $folder/root.log)."
+    logged "debian-$release/clone" make_clone || fail "The clone could not be made (see $folder/clone.log)."
     for command in ./play ./check; do
         say "Debian $release: $command."
         status=0
         chroot "$root" su --login player --command "cd zampotine && $command" || status=1
         cp "$root/$clone"/build/*.{log,png} "$folder" 2>/dev/null || true
-        ((status == 0)) || fail "Failed on Debian $release: $command; its logs are in $folder."
+        ((status == 0)) || fail "$command failed on Debian $release; its logs are in $folder."
     done
 }
 
 remove_root() {
     local end=$((SECONDS + 20))
     umount --lazy "$root" 2>/dev/null || true
-    # Processes that were killed may still write.
+    # Killed processes may still be writing.
     until rm -rf --one-file-system "$root" "$folder/tmp" 2>/dev/null; do
         ((SECONDS < end)) || fail "The folder $root could not be removed; remove it."
         sleep 0.1
@@ -90,29 +90,29 @@ fi
     fail "Name a release of Debian, such as: scripts/try_debian.sh trixie"
 [[ $EUID == 0 ]] || fail "Only root can make a system of another release; run this as root."
 namespaces=(unshare --mount --pid --fork --kill-child --mount-proc)
-# In a chroot the mounts that are there cannot be made private.
+# Inside a chroot, unshare cannot make the existing mounts private.
 "${namespaces[@]}" true 2>/dev/null || namespaces+=(--propagation unchanged)
-"${namespaces[@]}" true 2>/dev/null || fail "This machine lets nobody make namespaces, so no other system can run here."
+"${namespaces[@]}" true 2>/dev/null || fail "This machine does not allow namespaces, so no other system can run here."
 scripts/install.sh root
-git rev-parse --quiet --verify HEAD >/dev/null 2>&1 || fail "Git finds no commit here; run this in a clone of your own."
+git rev-parse --quiet --verify HEAD >/dev/null 2>&1 || fail "Git finds no commit here; run this in a clone that you own."
 
 system=
 mkdir -p "$folder"
 exec 9<"$folder"
-flock --nonblock 9 || fail "Debian $release is being tried in this clone already; wait until that has ended."
+flock --nonblock 9 || fail "Another run tries Debian $release in this clone; wait until it has ended."
 trap clean_up EXIT
 
 archive=$(apt-get indextargets 'Label: Debian' 'Component: main' | sed -n 's/^Repo-URI: //p')
 archive=${archive%%$'\n'*}
-[[ -n $archive ]] || fail "This machine's apt knows no archive of Debian; run apt-get update, then this again."
-remove_root # of a run that was killed
+[[ -n $archive ]] || fail "apt knows no Debian archive; run apt-get update, then run this again."
+remove_root # left by a run that was killed
 mkdir "$folder/tmp"
 /usr/lib/apt/apt-helper download-file "${archive%/}/dists/$release/InRelease" "$folder/tmp/InRelease" >/dev/null 2>&1 ||
-    fail "There is no release '$release' in $archive, or no way to it; check the name and the network."
+    fail "There is no release '$release' in $archive, or the network is down; check both."
 [[ $# == 1 ]] || exit 0
 rm -f "$folder"/*.{log,png}
-git diff --quiet HEAD || say "What is not committed is left out."
-# Whoever starts this in the background ignores SIGINT, and so would all that runs in the system.
+git diff --quiet HEAD || say "Changes that are not committed are not tried."
+# A shell starts background jobs with SIGINT ignored, and everything in the system would inherit that.
 setsid setpriv --pdeathsig KILL env --default-signal "${namespaces[@]}" \
     scripts/try_debian.sh "$release" inside "$archive" &
 system=$!
@@ -123,4 +123,4 @@ system=
     ((status == 1)) || fail "The system was killed."
     exit 1
 }
-say "Debian $release: ./play and ./check passed; the picture is in $folder/zampotine.png."
+say "Debian $release: ./play and ./check passed; the screenshot is $folder/zampotine.png."

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Everything in the package is as old as the release, so that it comes out the same whenever it is built.
+# All files of the package get the date of the release, so that every build gives the same package.
 if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
   execute_process(
     COMMAND date --utc --date=${CPACK_ZAMPOTINE_RELEASE_DATE} +%s

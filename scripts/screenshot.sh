@@ -2,12 +2,12 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Shows the game on a virtual display and saves a picture of its window: scripts/picture.sh PROGRAM PICTURE
+# Shows the game on a virtual display and saves a screenshot of its window: scripts/screenshot.sh PROGRAM SCREENSHOT
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=scripts/steps.sh
 . scripts/steps.sh
-program=$1 picture=$2
+program=$1 screenshot=$2
 
 work=$(mktemp -d)
 processes=()
@@ -33,7 +33,7 @@ clean_up() {
 }
 trap clean_up EXIT
 
-# A window that is shown while the window manager starts may stay hidden for ever.
+# A window that opens before the window manager is ready may stay hidden.
 manager_ready() {
     timeout 5 xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
 }
@@ -42,7 +42,7 @@ window_shown() {
     window=$(timeout 5 xdotool search --onlyvisible --class zampotine 2>/dev/null | head -n 1) && [[ -n $window ]]
 }
 
-# Whether the window has many colours and has not changed since the last look.
+# Whether the window has many colours and has not changed since the last call.
 painted() {
     local before=${look-}
     timeout 10 import -window "$window" "$work/window.png" 2>/dev/null || return
@@ -50,7 +50,7 @@ painted() {
     [[ $look == "$before" ]] && ((${look% *} >= 64))
 }
 
-# Nothing of the player's desktop and settings is touched.
+# Keeps the player's desktop and settings out of it.
 unset WAYLAND_DISPLAY XAUTHORITY SESSION_MANAGER
 export XDG_CONFIG_HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb
 
@@ -68,7 +68,7 @@ processes+=("$game")
 
 within 30 window_shown || fail "The game showed no window on the virtual display (see build/game.log)."
 within 20 painted || fail "The game's window was not painted on the virtual display (see build/game.log)."
-mv "$work/window.png" "$picture"
+mv "$work/window.png" "$screenshot"
 kill -TERM "$game"
 within 20 all_ended "$game" || fail "The game did not end when it was asked to."
 wait "$game" || fail "The game ended with the status $? (see build/game.log)."

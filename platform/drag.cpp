@@ -44,7 +44,9 @@ class Drag : public QObject {
                 follow(*static_cast<QMouseEvent*>(event));
                 return true;
             case QEvent::Hide:
-                end();
+                if (watched == &control) {
+                    end();
+                }
                 break;
             default:
                 break;

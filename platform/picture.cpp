@@ -48,6 +48,9 @@ QPixmap Picture::inPixels(QSize pixels) const {
 }
 
 Picture Picture::on(const QColor& ground) const {
+    if (shared == nullptr) {
+        return {};
+    }
     const auto compose = [ground](const QPixmap& picture) {
         QPixmap opaque(picture.size());
         opaque.fill(ground);

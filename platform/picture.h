@@ -28,6 +28,7 @@ class Picture {
     QPixmap inPixels(QSize pixels) const;
 
     /// The same picture on an opaque ground, so that it is copied to the screen instead of blended.
+    /// No picture stays none.
     Picture on(const QColor& ground) const;
 
     /// Whether both are the same picture.

@@ -42,7 +42,10 @@ balls::balls(Surroundings world)
     Form_Load();
 }
 
-balls::~balls() = default;
+// The board reads the game when it loses the focus, and that may happen while its window is destroyed.
+balls::~balls() {
+    delete c;
+}
 
 void balls::createControls() {
     const auto bind = [this](auto*& control, const char* name, int index = -1) {

@@ -6,8 +6,6 @@
 #include "mainwindow/balls.h"
 #include "platform/label.h"
 
-using namespace Qt::StringLiterals;
-
 namespace mainwindow {
 
 void balls::sc_Change() {

@@ -49,7 +49,7 @@ void balls::SizeBoard() {
 }
 
 void balls::ClearBoard() {
-    game.board = {};
+    std::ranges::fill(game.board.cells, rules::Code::none);
 }
 
 int balls::selectedLevel() const {

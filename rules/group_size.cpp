@@ -5,11 +5,9 @@
 
 namespace rules {
 
-int groupSize(const Board& board, CellIndex i) {
-    if (board[i] == Code::none) {
-        return 0;
-    }
-    std::vector<bool> isFound(board.cells.size());
+namespace {
+
+std::vector<CellIndex> groupOf(CellIndex i, const Board& board, std::vector<bool>& isFound) {
     isFound[i] = true;
     std::vector<CellIndex> group{i};
     for (std::size_t next = 0; next < group.size(); ++next) {
@@ -20,7 +18,28 @@ int groupSize(const Board& board, CellIndex i) {
             }
         });
     }
-    return static_cast<int>(group.size());
+    return group;
+}
+
+}  // namespace
+
+int groupSize(const Board& board, CellIndex i) {
+    std::vector<bool> isFound(board.cells.size());
+    return board[i] == Code::none ? 0 : static_cast<int>(groupOf(i, board, isFound).size());
+}
+
+std::vector<int> groupSizes(const Board& board) {
+    std::vector<int> sizes(board.cells.size());
+    std::vector<bool> isFound(board.cells.size());
+    for (CellIndex i = 0; board.contains(i); ++i) {
+        if (board[i] != Code::none && !isFound[i]) {
+            const std::vector<CellIndex> group = groupOf(i, board, isFound);
+            for (const CellIndex member : group) {
+                sizes[member] = static_cast<int>(group.size());
+            }
+        }
+    }
+    return sizes;
 }
 
 }  // namespace rules

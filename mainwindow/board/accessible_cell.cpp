@@ -35,13 +35,6 @@ QString describeContent(rules::Code code) {
     }
 }
 
-QString describe(const rules::Board& board, rules::CellIndex i) {
-    const auto [col, row] = board.positionOf(i);
-    const QString place = u"%1, ligne %2, colonne %3"_s.arg(describeContent(board[i])).arg(row + 1).arg(col + 1);
-    const int group = rules::groupSize(board, i);
-    return group == 0 ? place : place + u", groupe de %1"_s.arg(group);
-}
-
 }  // namespace
 
 bool AccessibleCell::isValid() const {
@@ -74,12 +67,15 @@ QString AccessibleCell::text(QAccessible::Text kind) const {
     if (kind != QAccessible::Name) {
         return {};
     }
-    lastRead = name();
+    lastRead = isValid() ? name(rules::groupSize(widget.board(), index)) : QString();
     return lastRead;
 }
 
-QString AccessibleCell::name() const {
-    return isValid() ? describe(widget.board(), index) : QString();
+QString AccessibleCell::name(int group) const {
+    const rules::Board& board = widget.board();
+    const auto [col, row] = board.positionOf(index);
+    const QString place = u"%1, ligne %2, colonne %3"_s.arg(describeContent(board[index])).arg(row + 1).arg(col + 1);
+    return group == 0 ? place : place + u", groupe de %1"_s.arg(group);
 }
 
 void* AccessibleCell::interface_cast(QAccessible::InterfaceType type) {

@@ -20,8 +20,9 @@ class AccessibleCell : public QAccessibleInterface,
     /// i is a cell of the board. The interface becomes invalid if the board gets smaller than that.
     AccessibleCell(BoardWidget& boardWidget, rules::CellIndex i) : widget(boardWidget), index(i) {}
 
-    /// Whether the name has changed since a screen reader last read it.
-    bool hasNewName() const { return name() != lastRead; }
+    /// Whether the name has changed since a screen reader last read it. `group` is the size of the cell's group now, 0
+    /// for an empty cell.
+    bool hasNewName(int group) const { return name(group) != lastRead; }
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }
@@ -52,7 +53,7 @@ class AccessibleCell : public QAccessibleInterface,
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
   private:
-    QString name() const;
+    QString name(int group) const;
 
     BoardWidget& widget;
     rules::CellIndex index;

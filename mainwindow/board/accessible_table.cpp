@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <map>
+#include <vector>
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -12,6 +13,7 @@
 #include "mainwindow/board/accessible_cell.h"
 #include "mainwindow/board/board_widget.h"
 #include "mainwindow/board/geometry.h"
+#include "rules/group_size.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,8 +43,10 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
             columnsBefore = board.NbCol;
             rowsBefore = board.NbLig;
         }
+        // groupSize() for each cell would visit a large group once for each of its balls.
+        const std::vector<int> groups = rules::groupSizes(board);
         for (const auto& [i, cell] : cells) {
-            if (cell->hasNewName()) {
+            if (cell->hasNewName(groups[i])) {
                 QAccessibleEvent event(cell, QAccessible::NameChanged);
                 QAccessible::updateAccessibility(&event);
             }

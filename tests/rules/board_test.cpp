@@ -27,9 +27,8 @@ TEST(Board, TextThatShowsNoBoardIsRefused) {
 
 TEST(Groups, AreConnectedByNeighboursOfOneColourAndNotAcrossEdgesOrCorners) {
     const Board board = boardOf("rbr .rr rbb");
-    for (CellIndex i = 0; const int size : {1, 0, 1, 1, 3, 2, 3, 3, 2}) {  // column by column
-        EXPECT_EQ(groupSize(board, i++), size) << "before cell " << i;
-    }
+    EXPECT_EQ(groupSizes(board), (std::vector{1, 0, 1, 1, 3, 2, 3, 3, 2}));  // column by column
+    EXPECT_EQ((std::vector{groupSize(board, 0), groupSize(board, 1), groupSize(board, 4)}), (std::vector{1, 0, 3}));
 }
 
 }  // namespace

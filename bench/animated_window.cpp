@@ -17,6 +17,7 @@
 #include "bench/idle_host.h"
 #include "platform/look.h"
 #include "rules/deal.h"
+#include "rules/group.h"
 #include "rules/move.h"
 #include "tests/mainwindow/world.h"
 

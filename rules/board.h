@@ -13,7 +13,7 @@
 
 namespace rules {
 
-/// The content of a cell: the colour code of its ball, or none. The value is the character for it in the text form of a
+/// The content of a cell: the colour of its ball, or none. The value is the character of the cell in the text form of a
 /// board.
 enum class Code : char {
     none = '.',
@@ -25,15 +25,15 @@ enum class Code : char {
     grey = 'g',
 };
 
-/// The colours in the order in which a deal hands them out.
+/// The colours in the order in which a deal gives them to the balls.
 inline constexpr std::array codes{Code::red, Code::blue, Code::green, Code::yellow, Code::magenta, Code::grey};
 
-/// The number of levels: level 0 has two colours, the last one has all of them.
+/// The number of levels. Level 0 has two colours, and each further level has one more.
 inline constexpr int levels = codes.size() - 1;
 
 using CellIndex = std::int16_t;
 
-/// The largest number of cells of a board: indices and counters are 16-bit.
+/// The largest number of cells of a board. Cell indices and ball counts are signed 16-bit numbers.
 inline constexpr int maxCells = INT16_MAX;
 
 struct Position {
@@ -41,8 +41,8 @@ struct Position {
     int row;
 };
 
-/// The grid of cells, numbered from 0 column by column: column 0 is at the left, row 0 at the top. The cell below cell
-/// i is i + 1, the cell to its right is i + NbLig.
+/// A grid of cells. The cells are numbered from 0, column by column: column 0 is at the left, row 0 at the top. Below
+/// cell i is cell i + 1, and to the right of cell i is cell i + NbLig.
 struct Board {
     int NbCol = 0;
     int NbLig = 0;
@@ -60,34 +60,15 @@ struct Board {
     Position positionOf(CellIndex i) const { return {i / NbLig, i % NbLig}; }
 };
 
-/// A board without balls. A count below one is raised to one. The caller makes sure that the product is at most
-/// maxCells.
+/// A board of NbCol columns and NbLig rows, without balls. A number below 1 becomes 1. The caller makes sure that the
+/// board has at most maxCells cells.
 Board emptyBoard(int NbCol, int NbLig);
-
-/// Calls visit(index) for each existing neighbour of cell i, in the order above, below, left, right.
-template <typename Visit>
-void forEachNeighbour(const Board& board, CellIndex i, Visit visit) {
-    const auto [col, row] = board.positionOf(i);
-    const auto neighbour = [i](int offset) { return static_cast<CellIndex>(i + offset); };
-    if (row > 0) {
-        visit(neighbour(-1));
-    }
-    if (row < board.NbLig - 1) {
-        visit(neighbour(+1));
-    }
-    if (col > 0) {
-        visit(neighbour(-board.NbLig));
-    }
-    if (col < board.NbCol - 1) {
-        visit(neighbour(+board.NbLig));
-    }
-}
 
 /// The board as text, one character per cell and one line per row, top row first.
 std::string print(const Board& board);
 
-/// Reads a board from the text form that print() writes; the last line break may be missing. Returns nothing if the
-/// lines differ in length, a character is no cell code, or there are no cells or more than maxCells.
+/// Reads a board from text in the form that print() writes. The last line break may be missing. Returns nullopt if the
+/// lines differ in length, if a character is no cell code, or if the board would have no cells or more than maxCells.
 std::optional<Board> parse(std::string_view text);
 
 }  // namespace rules

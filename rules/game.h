@@ -9,15 +9,15 @@
 
 namespace rules {
 
-/// The whole state of one game. Between moves, `Total` is the number of balls on the board, the balls of every column
-/// are stacked on the bottom row, and the columns that hold balls are packed to the left.
+/// The whole state of one game. Between two moves, `Total` is the number of balls on the board, each ball lies on the
+/// bottom row or on another ball, and all empty columns are at the right.
 struct Game {
     Board board;
     std::int16_t Total = 0;     ///< balls still on the board
     std::int16_t NBBoules = 0;  ///< balls dealt, equal to the number of cells
     std::int16_t NbCoul = 0;    ///< colours of this game, 2 to 6
-    std::int16_t Diff = 0;      ///< level of this game, 0 to 4: the key of its best score
-    std::int64_t score = 0;     ///< the label `sc` shows it
+    std::int16_t Diff = 0;      ///< level of this game, 0 to 4; each level has its own best score
+    std::int64_t score = 0;     ///< shown in the label `sc`
 };
 
 }  // namespace rules

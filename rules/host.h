@@ -9,14 +9,14 @@
 
 namespace rules {
 
-/// The callbacks of a move. They come in the order in which the player sees and hears their effects; the game's state
-/// is already changed when a callback reports a change.
+/// The callbacks of a move. The rules call them in the order in which the player sees and hears the effects. When a
+/// callback reports a change, the state of the game is already changed.
 struct Host {
     virtual ~Host() = default;
 
     /// Cell i has lost its ball.
     virtual void cellCleared(CellIndex i) = 0;
-    /// Called after each ball that is removed, so that the player can see it vanish.
+    /// Called after the removal of each ball, so that the host can show the empty cell before the next removal.
     virtual void yield() = 0;
     /// The score has changed.
     virtual void scoreChanged() = 0;
@@ -24,11 +24,11 @@ struct Host {
     virtual void lastMoveChanged(std::string_view text) = 0;
     /// The status line about the balls left has a new text (UTF-8).
     virtual void remainingChanged(std::string_view text) = 0;
-    /// Plays this sound file to its end.
+    /// Plays the sound file of this name and returns after the end of the sound.
     virtual void PlayWave(std::string_view file) = 0;
     /// The balls have fallen and the columns have closed up: any cell may have changed.
     virtual void boardSettled() = 0;
-    /// The game has ended. Returns at once.
+    /// The game has ended. The host returns without waiting for the player.
     virtual void gameEnded() = 0;
 
   protected:

@@ -3,6 +3,7 @@
 
 #include "rules/move.h"
 
+#include "rules/group.h"
 #include "rules/points.h"
 #include "rules/settle.h"
 #include "rules/sound_choice.h"
@@ -10,22 +11,10 @@
 
 namespace rules {
 
-bool isGroup(const Board& board, int i) {
-    if (!board.contains(i)) {
-        return false;
-    }
-    const auto cell = static_cast<CellIndex>(i);
-    const Code code = board[cell];
-    bool match = false;
-    if (code != Code::none) {
-        forEachNeighbour(board, cell, [&](CellIndex neighbour) { match |= board[neighbour] == code; });
-    }
-    return match;
-}
-
 void efface(Board& board, CellIndex K, Code t, int& S, Host& host) {
-    // A recursion over thousands of balls would overflow the call stack. Neighbours are pushed in reverse order and
-    // tested again when they are popped, which gives the order of the recursion.
+    // A recursion over thousands of balls could overflow the call stack. This loop removes the balls in the same
+    // order; it pushes the neighbours in reverse order for that. A cell may be pushed twice, so each popped cell is
+    // tested.
     std::vector<CellIndex> pending{K};
     while (!pending.empty()) {
         const CellIndex cell = pending.back();

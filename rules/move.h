@@ -8,17 +8,13 @@
 
 namespace rules {
 
-/// Whether a press on cell i removes a group: cell i holds a ball and a neighbour holds a ball of the same colour.
-/// False for an index outside of the board.
-bool isGroup(const Board& board, int i);
-
-/// Clears the group of colour t around cell K, ball by ball and depth first (above, below, left, right), and adds the
-/// number of balls to S. Calls cellCleared() and then yield() on the host for each ball; the host must not change the
-/// board. Does nothing if K does not hold t.
+/// Removes the group of colour t around cell K, ball by ball, depth first in the order above, below, left, right. Adds
+/// the number of removed balls to S. For each ball, calls cellCleared() and then yield() of the host, which must not
+/// change the board. Does nothing if cell K does not hold colour t. K must be on the board, and t must not be none.
 void efface(Board& board, CellIndex K, Code t, int& S, Host& host);
 
-/// Plays the whole move of a press on cell i: removal, score, status lines, sound, falling, closing up, end of the
-/// game. If the press removes no group, nothing changes and the host is not called.
+/// Plays the whole move after a press on cell i: removal, score, status lines, sound, falling, closing up, end of the
+/// game. If the press removes no group, changes nothing and does not call the host.
 void playMove(Game& game, int i, Host& host);
 
 }  // namespace rules

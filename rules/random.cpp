@@ -17,8 +17,8 @@ float Random::operator()() {
 }
 
 std::uint64_t seedFromClock() {
-    // The wall clock differs between runs. The steady clock differs between the deals of one run, even if somebody
-    // sets the wall clock back.
+    // The wall clock makes the seeds of two runs differ. The steady clock makes the seeds within one run differ, even
+    // if somebody sets the wall clock back.
     const auto wall = std::chrono::system_clock::now().time_since_epoch().count();
     const auto steady = std::chrono::steady_clock::now().time_since_epoch().count();
     return (static_cast<std::uint64_t>(wall) << 20U) ^ static_cast<std::uint64_t>(steady);

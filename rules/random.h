@@ -11,20 +11,20 @@ namespace rules {
 /// Returns the next random number, uniform in [0, 1).
 using RandomSource = std::function<float()>;
 
-/// The game's generator (SplitMix64). Algorithm and distribution are our own, so that a seed gives the same board with
-/// every compiler and library.
+/// The random generator of the game: SplitMix64 with a conversion to float. Both are implemented here, so that a seed
+/// gives the same board with every compiler and standard library.
 class Random {
   public:
     explicit Random(std::uint64_t seed) : state(seed) {}
 
-    /// The next number, uniform over the multiples of 2^-24 in [0, 1).
+    /// The next number: a multiple of 2^-24 in [0, 1). All these multiples are equally likely.
     float operator()();
 
   private:
     std::uint64_t state;
 };
 
-/// A seed from the clocks, different at every call.
+/// A seed from the clocks. Two calls practically never return the same seed.
 std::uint64_t seedFromClock();
 
 }  // namespace rules

@@ -11,7 +11,8 @@ void settle(Board& board) {
     const auto height = static_cast<std::ptrdiff_t>(board.NbLig);
     auto target = board.cells.begin();
     for (auto column = board.cells.begin(); column != board.cells.end(); column += height) {
-        // Source and target may be the same column: from the bottom up, no ball is overwritten before it is read.
+        // `column` and `target` may be the same column. Copying from the bottom up reads each ball before its cell is
+        // overwritten.
         auto landing = target + height;
         for (auto cell = column + height; cell != column;) {
             if (*--cell != Code::none) {

@@ -7,11 +7,11 @@
 
 namespace rules {
 
-/// Lets the balls fall within their columns and closes up empty columns toward the left, in one sweep. The balls of a
-/// column keep their order, and so do the columns.
+/// Lets the balls fall within their columns, and closes up empty columns toward the left. The order of the balls in a
+/// column stays, and so does the order of the columns.
 ///
 ///     r.b.      ....
-///     ..v.  ->  b...
+///     ..v.  ->  .b..
 ///     r.j.      rv..
 ///     ....      rj..
 void settle(Board& board);

@@ -7,7 +7,7 @@
 
 namespace rules {
 
-/// The name of the sound file for a group of this many balls.
+/// The file name of the sound for a group of `balls` balls.
 std::string_view soundFor(int balls);
 
 }  // namespace rules

@@ -7,7 +7,7 @@
 
 namespace rules {
 
-/// The status line about the last move, for the number of balls it removed: "5 balles crevées (20 points.)".
+/// The status line after a move that removed `balls` balls: "5 balles crevées (20 points.)".
 std::string lastMoveText(int balls);
 
 /// The status line about the balls left: "Il reste 495 balles sur 500."

@@ -8,7 +8,7 @@
 
 #include "mainwindow/board/board_widget.h"
 #include "mainwindow/board/geometry.h"
-#include "rules/group_size.h"
+#include "rules/group.h"
 
 using namespace Qt::StringLiterals;
 

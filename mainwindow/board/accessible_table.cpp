@@ -13,7 +13,7 @@
 #include "mainwindow/board/accessible_cell.h"
 #include "mainwindow/board/board_widget.h"
 #include "mainwindow/board/geometry.h"
-#include "rules/group_size.h"
+#include "rules/group.h"
 
 using namespace Qt::StringLiterals;
 

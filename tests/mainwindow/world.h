@@ -20,7 +20,7 @@
 #include "platform/controls.h"
 #include "platform/text_box.h"
 #include "rules/deal.h"
-#include "rules/move.h"
+#include "rules/group.h"
 #include "tests/rules/board_text.h"
 
 namespace mainwindow {

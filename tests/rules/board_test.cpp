@@ -3,7 +3,7 @@
 
 #include "rules/board.h"
 
-#include "rules/group_size.h"
+#include "rules/group.h"
 #include "tests/rules/board_text.h"
 
 namespace rules {

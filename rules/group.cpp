@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "rules/group_size.h"
+#include "rules/group.h"
 
 namespace rules {
-
 namespace {
 
-std::vector<CellIndex> groupOf(CellIndex i, const Board& board, std::vector<bool>& isFound) {
+std::vector<CellIndex> groupOf(const Board& board, CellIndex i, std::vector<bool>& isFound) {
     isFound[i] = true;
     std::vector<CellIndex> group{i};
     for (std::size_t next = 0; next < group.size(); ++next) {
@@ -23,9 +22,22 @@ std::vector<CellIndex> groupOf(CellIndex i, const Board& board, std::vector<bool
 
 }  // namespace
 
+bool isGroup(const Board& board, int i) {
+    if (!board.contains(i)) {
+        return false;
+    }
+    const auto cell = static_cast<CellIndex>(i);
+    const Code code = board[cell];
+    bool match = false;
+    if (code != Code::none) {
+        forEachNeighbour(board, cell, [&](CellIndex neighbour) { match |= board[neighbour] == code; });
+    }
+    return match;
+}
+
 int groupSize(const Board& board, CellIndex i) {
     std::vector<bool> isFound(board.cells.size());
-    return board[i] == Code::none ? 0 : static_cast<int>(groupOf(i, board, isFound).size());
+    return board[i] == Code::none ? 0 : static_cast<int>(groupOf(board, i, isFound).size());
 }
 
 std::vector<int> groupSizes(const Board& board) {
@@ -33,7 +45,7 @@ std::vector<int> groupSizes(const Board& board) {
     std::vector<bool> isFound(board.cells.size());
     for (CellIndex i = 0; board.contains(i); ++i) {
         if (board[i] != Code::none && !isFound[i]) {
-            const std::vector<CellIndex> group = groupOf(i, board, isFound);
+            const std::vector<CellIndex> group = groupOf(board, i, isFound);
             for (const CellIndex member : group) {
                 sizes[member] = static_cast<int>(group.size());
             }

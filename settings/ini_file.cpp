@@ -18,8 +18,8 @@ struct Line {
     Kind kind = Kind::other;
     qsizetype begin = 0;
     qsizetype end = 0;  // after the line break
-    QString name;       // of the section or key
-    QString text;       // of an entry
+    QString name;       // of the section or of the key
+    QString text;       // the value of the key
 };
 
 QString escaped(const QString& text, QLatin1StringView reserved = {}) {
@@ -88,8 +88,8 @@ Line lineAt(const QByteArray& file, qsizetype begin) {
 
 struct Place {
     std::optional<Line> entry;            // the line that holds the key
-    std::optional<qsizetype> sectionEnd;  // where a new line of the section is inserted
-    bool anyReadable = false;             // whether the file has a section, a key or a comment
+    std::optional<qsizetype> sectionEnd;  // where to insert a new line of the section
+    bool hasContent = false;              // whether the file has a section, a key or a comment
 };
 
 Place placeOf(const QByteArray& file, const QString& section, const QString& key) {
@@ -99,7 +99,7 @@ Place placeOf(const QByteArray& file, const QString& section, const QString& key
     for (qsizetype begin = file.startsWith(byteOrderMark) ? byteOrderMark.size() : 0; begin < file.size();
          begin = line.end) {
         line = lineAt(file, begin);
-        place.anyReadable |= line.kind != Line::Kind::other;
+        place.hasContent |= line.kind != Line::Kind::other;
         if (line.kind == Line::Kind::section) {
             current = line.name;
         } else if (line.kind != Line::Kind::entry) {
@@ -119,7 +119,7 @@ Place placeOf(const QByteArray& file, const QString& section, const QString& key
 }  // namespace
 
 bool isIniFile(const QByteArray& file) {
-    return !file.contains('\0') && file.isValidUtf8() && placeOf(file, {}, {}).anyReadable;
+    return !file.contains('\0') && file.isValidUtf8() && placeOf(file, {}, {}).hasContent;
 }
 
 std::optional<QString> valueIn(const QByteArray& file, const QString& section, const QString& key) {

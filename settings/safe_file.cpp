@@ -28,7 +28,8 @@ namespace settings {
 
 namespace {
 
-// Suffix of a replacement being written, after a dot and six random letters. Any file named so may be removed.
+// A temporary file is named like the original file, followed by a dot, six random letters and this suffix.
+// removeLeftovers() removes every file with such a name.
 constexpr std::string_view temporarySuffix = ".part";
 
 bool isTemporaryName(std::string_view name, std::string_view original) {
@@ -36,23 +37,24 @@ bool isTemporaryName(std::string_view name, std::string_view original) {
            name[original.size()] == '.' && name.ends_with(temporarySuffix);
 }
 
-/// The end of a chain of symbolic links, even if no file is there; the path itself if it is no link.
-QString targetOf(const QString& path) {
-    const QFileInfo file(path);
-    if (!file.isSymLink()) {
-        return path;
+/// The path to which symbolic links lead from this path, even if there is no file. For a link loop, one of its links.
+QString targetOf(QString path) {
+    constexpr int mostLinks = 40;
+    for (int links = 0; links < mostLinks && QFileInfo(path).isSymLink(); ++links) {
+        path = QFileInfo(path).symLinkTarget();
     }
-    return file.exists() ? file.canonicalFilePath() : file.symLinkTarget();
+    return path;
 }
 
-/// A new file that replaces the file at `path`, or is removed if move() does not succeed.
+/// A temporary file. move() renames it over the file at `path`. Without a successful move(), the destructor removes the
+/// temporary file.
 struct Replacement : QTemporaryFile {
     explicit Replacement(const QString& path)
         : QTemporaryFile(path + u".XXXXXX"_s + QLatin1StringView(temporarySuffix)), place(QFile::encodeName(path)) {}
 
     bool holds(const QByteArray& bytes) { return open() && write(bytes) == bytes.size() && flush(); }
 
-    /// Returns 0 or an errno.
+    /// Returns 0 on success, and an errno value on failure.
     int move() const {
         return std::rename(QFile::encodeName(fileName()).constData(), place.constData()) == 0 ? 0 : errno;
     }
@@ -60,9 +62,9 @@ struct Replacement : QTemporaryFile {
     QByteArray place;
 };
 
-/// Whether a call that sets a mode or syncs succeeded, or is not possible on this file system, so that a save continues
-/// without it. Any other error, such as EIO, means that the disk may not hold the bytes. So does EROFS: fsync() reports
-/// it when a damaged file system has become read-only.
+/// Whether a save may continue after this result of a system call. It may if the call succeeded, or if the file system
+/// does not support or permit the call. Any other error stops the save: the disk may not hold the bytes. EROFS stops
+/// the save, too: fsync() reports EROFS when a damaged file system has become read-only.
 bool succeededOrUnsupported(int result) {
     return result == 0 || errno == EACCES || errno == EPERM || errno == EINVAL || errno == ENOSYS ||
            errno == EOPNOTSUPP;
@@ -86,7 +88,7 @@ FileContent readFile(const QString& path) {
     if (stat(name.constData(), &status) != 0) {
         return {errno == ENOENT ? FileContent::State::missing : FileContent::State::unavailable, {}};
     }
-    // Opening another kind of file has effects: it would wake the writer of a FIFO.
+    // Open only regular files. Opening a FIFO, for example, would wake its writer.
     if (!S_ISREG(status.st_mode)) {
         return {};
     }
@@ -95,12 +97,12 @@ FileContent readFile(const QString& path) {
     if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)) {
         return {};
     }
-    // Another copy may have replaced the file since stat(): only the size of the open file counts.
+    // Another copy of the program may have replaced the file since stat(). So take the size of the open file.
     if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > maxFileSize) {
         return {};
     }
     QByteArray bytes = file.read(status.st_size);
-    // A read error after the first bytes shows only as a short read.
+    // If a read error comes after the first bytes, read() only returns fewer bytes.
     if (bytes.size() != status.st_size) {
         return {};
     }
@@ -139,7 +141,8 @@ Replaced replaceFile(const QString& path, const QByteArray& bytes) {
 
 bool overwriteFile(const QString& path, const QByteArray& bytes) {
     QFile file(path);
-    // Between two syncs the disk may write in any order. The first byte makes the file valid, so it is written last.
+    // Between two syncs, the disk may write in any order. So all bytes are written first, with NUL in place of the
+    // first byte, and synced. The first byte comes last: it makes the file valid.
     const auto isSynced = [&] { return succeededOrUnsupported(fsync(file.handle())); };
     return file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered) && isSynced() &&
            file.write(unfinished(bytes)) == bytes.size() && isSynced() && file.seek(0) &&
@@ -158,7 +161,7 @@ bool replaceCopy(const QString& path, const QByteArray& bytes) {
 void removeLeftovers(const QString& path) {
     std::error_code error;
     const std::filesystem::path file = QFile::encodeName(targetOf(path)).toStdString();
-    // Not with QDir, which calls stat() on every file of the folder.
+    // Do not use QDir here: it calls stat() on every file of the folder.
     std::filesystem::directory_iterator entry(file.parent_path(), error);
     for (; entry != end(entry); entry.increment(error)) {
         if (isTemporaryName(entry->path().filename().native(), file.filename().native()) &&
@@ -183,7 +186,7 @@ Lock lock(QFile& file, std::chrono::nanoseconds& patience) {
         }
         const auto begin = Clock::now();
         std::this_thread::sleep_for(std::min<std::chrono::nanoseconds>(patience, std::chrono::milliseconds(1)));
-        // Time during which this program itself was stalled does not count against its patience.
+        // If the system stalls this program during the sleep, only `longestTry` counts against `patience`.
         patience -= std::min<std::chrono::nanoseconds>(longestTry, Clock::now() - begin);
     }
     return Lock::held;

@@ -13,22 +13,22 @@ class QFile;
 /// Reads and replaces small files as a whole. No function throws, and only `lock` waits for other programs.
 namespace settings {
 
-/// The largest file that is read, in bytes.
+/// Files larger than this number of bytes are not read.
 inline constexpr qsizetype maxFileSize = qsizetype{1} << 20;
 
 struct FileContent {
     enum class State { missing, read, unavailable };
     State state = State::unavailable;
-    QByteArray bytes;  // empty unless read
+    QByteArray bytes;  // empty unless the state is `read`
 };
 
-/// The content of the file at a path, after symbolic links. The state is `unavailable` if the file cannot be read to
-/// its end, so that it must not be written over: no permission, a read error, a link loop, more than `maxFileSize`
-/// bytes, or not a regular file.
+/// Reads the file at the path and follows symbolic links. The state is `missing` if there is no file. The state is
+/// `unavailable` if the file cannot be read to its end: no permission, a read error, a link loop, more than
+/// `maxFileSize` bytes, or not a regular file. The caller must not write over an unavailable file.
 FileContent readFile(const QString& path);
 
-/// Creates the folder and its parents where they are missing, each accessible only to its owner, and syncs their
-/// parents. Reports no failure: creating a file in a missing folder fails anyway.
+/// Creates the folder and its missing parents, accessible only to their owner, and syncs the parent of each new folder.
+/// Reports no failure: if the folder is still missing, creating a file in it fails.
 void makeFolder(const QString& folder);
 
 enum class Replaced {
@@ -37,24 +37,27 @@ enum class Replaced {
     onlyInPlace,  // the file holds the old bytes and is a mount point, which rename() cannot replace
 };
 
-/// Replaces the content of the file. At every moment, even after a power cut, the file holds either the old or the new
-/// bytes; after `yes`, the new ones. The file keeps its mode if the file system can set modes; otherwise only its owner
-/// can access it, as with a new file. Symbolic links to the file stay. A read-only file is not replaced.
+/// Replaces the content of the file, or creates the file. At every moment, even after a power cut, the file holds
+/// either the old or the new bytes. After `yes`, the file holds the new bytes. The file keeps its mode if the file
+/// system can set modes. If the file is new, or its mode cannot be set, only the owner can access the file. Symbolic
+/// links to the file stay. A read-only file is not replaced.
 Replaced replaceFile(const QString& path, const QByteArray& bytes);
 
-/// Writes the bytes, at least one, into the existing file, if `replaceFile` cannot replace it. After a kill or a power
-/// cut the file holds the old bytes, nothing, the first part of `unfinished`, or the new bytes. False if a step fails.
+/// Writes `bytes` (at least one byte) into an existing file that `replaceFile` cannot replace. After a kill or a power
+/// cut, the file holds the old bytes, the new bytes, no bytes, or bytes that begin with NUL. After a kill, the bytes
+/// with NUL are the beginning of `unfinished(bytes)`, so that a later save can recognise them. Returns false if a step
+/// fails.
 bool overwriteFile(const QString& path, const QByteArray& bytes);
 
-/// The bytes with NUL instead of the first one: no reader accepts them as a settings file.
+/// The bytes with NUL in place of the first byte, so that isIniFile() rejects them.
 QByteArray unfinished(const QByteArray& bytes);
 
-/// Like `replaceFile`, but does not wait for the disk: after a power cut the file may hold anything. Keeps neither mode
-/// nor symbolic links. False if the old bytes are still there.
+/// Like `replaceFile`, but does not wait for the disk: after a power cut, the file may hold anything. The file does not
+/// keep its mode, and a symbolic link at the path is replaced. Returns false if the old bytes are still there.
 bool replaceCopy(const QString& path, const QByteArray& bytes);
 
-/// Removes the temporary files that a killed `replaceFile` or `replaceCopy` of this path left behind. Call it only
-/// while no other program writes to the path.
+/// Removes the temporary files of this path that remain if the program is killed during `replaceFile` or `replaceCopy`.
+/// Call this function only while no other program writes to the path.
 void removeLeftovers(const QString& path);
 
 enum class Lock {
@@ -63,9 +66,9 @@ enum class Lock {
     impossible,  // the file cannot be opened, or the file system cannot lock it
 };
 
-/// Opens the file, creating it if needed, and locks it against other programs until it is closed. If another program
-/// holds the lock, waits at most `patience` and subtracts the time spent from it, except time during which this program
-/// stalled.
+/// Opens the file, creates it if it is missing, and locks it against other programs until it is closed. If another
+/// program holds the lock, waits at most `patience`. Subtracts the time of this wait from `patience`, except time
+/// during which this program was stalled.
 Lock lock(QFile& file, std::chrono::nanoseconds& patience);
 
 }  // namespace settings

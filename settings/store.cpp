@@ -22,11 +22,12 @@ constexpr QLatin1StringView backupSuffix = ".bak"_L1;
 constexpr QLatin1StringView rejectedSuffix = ".bad"_L1;
 constexpr QLatin1StringView lockSuffix = ".lock"_L1;
 
-/// What a raise stores over `current`: `text`, unless `current` is a number at least as high.
+/// The text to store when `current` is raised to `text`. It is `text`, unless `current` is a number and `text` is not a
+/// higher one.
 QString raised(const QString& current, const QString& text) {
-    const std::optional<double> standing = numberIn(current);
-    const std::optional<double> candidate = numberIn(text);
-    return standing && (!candidate || *standing >= *candidate) ? current : text;
+    const std::optional<double> before = numberIn(current);
+    const std::optional<double> after = numberIn(text);
+    return before && (!after || *before >= *after) ? current : text;
 }
 
 }  // namespace
@@ -37,7 +38,7 @@ QString Store::read(const QString& section, const QString& key, const QString& f
     const Stored now = stored();
     const auto change = unsaved.find({section, key});
     if (change != unsaved.end()) {
-        return standing(now, change->first, change->second);
+        return textAfter(now, change->first, change->second);
     }
     return valueIn(now.settings, section, key).value_or(fallback);
 }
@@ -62,13 +63,14 @@ void Store::reset(const QString& section, const QString& key) {
     if (change != unsaved.end()) {
         change->second.kind = Change::Kind::reset;
         if (const Stored now = stored(); now.available) {
-            change->second.base = now.file;
+            change->second.fileAtRequest = now.file;
         }
     }
 }
 
 void Store::flush() {
-    // Wait up to 200 ms even if patience is spent: two copies that save without the lock can undo each other.
+    // Wait up to 200 ms even if `patience` is used up: two copies of the program that save without the lock can undo
+    // each other's changes.
     patience = std::max<std::chrono::nanoseconds>(patience, std::chrono::milliseconds(200));
     save(Locking::attempted);
 }
@@ -86,13 +88,14 @@ Store::Stored Store::stored() const {
             file.bytes};
 }
 
-/// The text of the key after the change is saved.
-QString Store::standing(const Stored& stored, const Name& name, const Change& change) {
-    const bool isLate = change.base && *change.base != stored.file;
+/// The text that the key has after the change is saved.
+QString Store::textAfter(const Stored& stored, const Name& name, const Change& change) {
+    const bool isLate = change.fileAtRequest && *change.fileAtRequest != stored.file;
     if (change.kind == Change::Kind::write || (change.kind == Change::Kind::reset && !isLate)) {
         return change.text;
     }
-    // A late reset must keep scores stored since it was asked for.
+    // A raise keeps a stored number that is higher. A late reset keeps any stored score: another copy of the program
+    // may have stored it after the reset was requested.
     const std::optional<QString> current = valueIn(stored.settings, name.first, name.second);
     return current ? raised(*current, change.text) : change.text;
 }
@@ -104,7 +107,8 @@ void Store::save(Locking locking) {
     makeFolder(QFileInfo(path).path());
     QFile lockFile(path + lockSuffix);
     const Lock lockState = lock(lockFile, patience);
-    // If there can be no lock, save at once: a later save could be lost by a kill.
+    // If another copy holds the lock, a later save stores the changes. If the file system cannot lock, save without the
+    // lock: waiting does not help, and the program could be killed before a later save.
     if (lockState == Lock::heldByAnother && locking == Locking::required) {
         return;
     }
@@ -115,14 +119,15 @@ void Store::save(Locking locking) {
     QByteArray settings = old.settings;
     std::map<Name, Change> unsavable;
     for (const auto& [name, change] : unsaved) {
-        const QByteArray next = withValue(settings, name.first, name.second, standing(old, name, change));
+        const QByteArray next = withValue(settings, name.first, name.second, textAfter(old, name, change));
         if (next.size() <= maxFileSize) {
             settings = next;
         } else {
             unsavable.emplace(name, change);
         }
     }
-    // After a failed sync, write everything again: another sync could succeed without having written the bytes.
+    // After a failed sync, write everything again: a second sync may report success although the bytes are not on the
+    // disk.
     if (settings != old.file || !isOnDisk) {
         if (lockState == Lock::held) {
             removeLeftovers(path);
@@ -139,7 +144,9 @@ void Store::save(Locking locking) {
 
 /// Replaces the stored settings. At every moment the file or its backup is complete.
 bool Store::replace(const Stored& old, const QByteArray& settings) const {
-    // An empty file needs no copy, and neither does a write in place that was killed: its bytes are in the backup.
+    // A file that is no settings file is first copied to `.bad`. Two kinds of files need no copy, and startsWith()
+    // finds both: an empty file, and the file that a killed overwriteFile() leaves. The backup holds the bytes of the
+    // latter.
     const bool isRejected = old.file != old.settings && !unfinished(old.settings).startsWith(old.file);
     if (isRejected && replaceFile(path + rejectedSuffix, old.file) != Replaced::yes) {
         return false;
@@ -151,7 +158,8 @@ bool Store::replace(const Stored& old, const QByteArray& settings) const {
     if (replaced == Replaced::no) {
         return false;
     }
-    // The file is now safe on the disk. The copy guards against damage by other programs; it may fail.
+    // The file is now safe on the disk. The backup only guards against damage by other programs, so its failure is
+    // ignored.
     replaceCopy(path + backupSuffix, settings);
     return true;
 }

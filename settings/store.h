@@ -13,33 +13,38 @@
 
 namespace settings {
 
-/// The per-user settings: texts by section and key, in one file that running copies of the program share.
+/// The settings of a user: texts by section and key, in one file. All running copies of the program share the file.
 ///
-/// Every change is saved at once, together with earlier changes that could not be saved; `read` returns it in any case.
-/// A file that cannot be read is never written over. A file that is no settings file is copied to `<path>.bad` before
-/// the first save; until then, the values come from `<path>.bak`, a copy of the last save. A file that is a mount point
-/// is written in place, after `<path>.bak`. No function reports a failure. All calls together wait at most
-/// `longestWait` for other copies, and closing waits 200 ms more.
+/// A change is saved at once if possible. If not, it stays in memory, where `read` finds it, and the next save tries
+/// again. During a save, the lock `<path>.lock` keeps other copies of the program out. All calls together wait at most
+/// `longestWait` for the lock, and `flush` may wait 200 ms more.
+///
+/// After a save, `<path>.bak` is a copy of the file. If the file is later found to be no settings file, the values come
+/// from this copy, and the next save keeps the bad file as `<path>.bad`. If the file is a mount point, a save first
+/// writes `<path>.bak` and then writes into the file. A file that cannot be read is never written over. No function
+/// reports a failure.
 class Store {
   public:
-    /// A store in this file, or only in memory if the path is empty. Reads and creates nothing yet.
+    /// Keeps the settings in the file at `iniPath`, or only in memory if the path is empty. The constructor neither
+    /// reads nor creates the file.
     explicit Store(QString iniPath, std::chrono::nanoseconds longestWait = std::chrono::seconds(1));
 
-    /// The text of the key, or the fallback if it is absent or the file cannot be read.
+    /// The text of the key, or the fallback if the key is absent or the file cannot be read.
     QString read(const QString& section, const QString& key, const QString& fallback) const;
 
     /// Sets the text of the key, creating the key if needed.
     void write(const QString& section, const QString& key, const QString& text);
 
-    /// Sets the key to the text of a number, unless it already holds a number at least as high. Returns the resulting
-    /// text.
+    /// Sets the key to `text`, the text of a number. If the key already holds a number at least as high, the key keeps
+    /// this number. Returns the text that the key has after the call.
     QString raise(const QString& section, const QString& key, const QString& text);
 
-    /// Sets the key to "0". If that cannot be saved at once and another program changes the file before it is saved,
-    /// the stored number stays.
+    /// Sets the key to "0". If the reset cannot be saved at once, and another program changes the file before the reset
+    /// is saved, the stored number stays.
     void reset(const QString& section, const QString& key);
 
-    /// Saves what could not be saved before, even without the lock. Call it when the program closes.
+    /// Saves the changes that are not saved yet. If another copy of the program keeps the lock, saves without it. Call
+    /// this function when the program closes.
     void flush();
 
   private:
@@ -49,31 +54,31 @@ class Store {
         enum class Kind { write, raise, reset };
         Kind kind = Kind::write;
         QString text;
-        std::optional<QByteArray> base =
-            {};  // for a reset still unsaved: the bytes of the file when it was asked for, if readable
+        // For an unsaved reset: the bytes of the file when the reset was requested, if the file could be read.
+        std::optional<QByteArray> fileAtRequest = {};
     };
 
     struct Stored {
-        bool available = false;  // whether it may be written over
+        bool available = false;  // whether the file may be written over
         QByteArray settings;
-        QByteArray file;  // the bytes at the path; they differ from the settings if they are no settings file
+        QByteArray file;  // the bytes at the path; if these are no settings file, `settings` comes from the backup
     };
 
     enum class Locking { required, attempted };
 
     Stored stored() const;
-    static QString standing(const Stored& stored, const Name& name, const Change& change);
+    static QString textAfter(const Stored& stored, const Name& name, const Change& change);
     void save(Locking locking);
     bool replace(const Stored& old, const QByteArray& settings) const;
 
     QString path;
     std::map<Name, Change> unsaved;
-    bool isOnDisk = true;  // false after a failed save, whose bytes may be in the file but not on the disk
+    bool isOnDisk = true;  // false after a failed save: its bytes may be in the file but not yet on the disk
     std::chrono::nanoseconds patience;
 };
 
-/// The path of the settings file of an executable: `<its base name>.ini` in `$XDG_CONFIG_HOME` or, if that is not an
-/// absolute path, in `~/.config`. Empty without a home folder.
+/// The path of the settings file of an executable: `<base name of the executable>.ini` in `$XDG_CONFIG_HOME`, or in
+/// `$HOME/.config` if `$XDG_CONFIG_HOME` is not an absolute path. Empty if `$HOME` is not an absolute path either.
 QString defaultPath(const QString& executable);
 
 }  // namespace settings

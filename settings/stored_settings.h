@@ -7,7 +7,7 @@
 
 #include "settings/store.h"
 
-/// The settings that are kept between runs, beside the best scores: each with its key and its default.
+/// The settings that are kept between runs in addition to the best scores, each with its key and its default.
 namespace settings::stored {
 
 /// The section that holds everything the game stores.
@@ -23,10 +23,11 @@ inline constexpr Setting columns{QLatin1StringView("Col"), QLatin1StringView("25
 inline constexpr Setting rows{QLatin1StringView("Lig"), QLatin1StringView("25")};
 inline constexpr Setting sound{QLatin1StringView("Son"), QLatin1StringView("1")};
 
-/// The stored text, or the default if there is none.
+/// The stored text of the setting, or its default if nothing is stored.
 QString read(const Store& store, const Setting& setting);
 
-/// The whole number nearest to the stored number. The default if the text is no number or its size is beyond an int.
+/// The stored number, rounded to a whole number. Returns the default if the text is no number or the number does not
+/// fit into an int.
 int readWholeNumber(const Store& store, const Setting& setting);
 
 void write(Store& store, const Setting& setting, const QString& text);

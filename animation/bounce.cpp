@@ -16,7 +16,7 @@ int direction(double u) {
 }
 
 int position(int room, double u) {
-    return static_cast<int>(std::lrint(room * u));  // a half is rounded to the even neighbour
+    return static_cast<int>(std::lrint(room * u));  // rounds a half to the even number
 }
 
 int turned(int Dir, int Pos, int room) {

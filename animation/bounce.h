@@ -14,7 +14,8 @@ using RandomSource = std::function<double()>;
 /// The side of a ball, in twips.
 inline constexpr int side = 300;
 
-/// A moving ball: its top left corner inside the field, in twips, and its direction along each axis, -1 or +1.
+/// A moving ball. PosX and PosY are the position of its top left corner in the field, in twips. DirX and DirY are its
+/// direction along each axis, -1 or +1.
 struct Ball {
     int PosX;
     int PosY;
@@ -25,12 +26,12 @@ struct Ball {
 
 using Balls = std::array<Ball, 6>;
 
-/// Balls at random places in a field of W by H twips, moving in random directions. Takes four random numbers for each
-/// ball, for DirX, DirY, PosX and PosY.
+/// Puts the balls at random places in a field of W by H twips and gives them random directions. Takes four random
+/// numbers for each ball, in the order DirX, DirY, PosX, PosY.
 Balls scatter(int W, int H, const RandomSource& random);
 
-/// Moves every ball by one pass: 10 twips along each axis. A ball turns back one pass after it has crossed an edge of
-/// the field, so it may be up to 10 twips outside.
+/// Moves every ball by one pass, 10 twips along each axis. A ball that has crossed an edge of the field turns back in
+/// the next pass, so a ball may be up to 10 twips outside the field.
 void pass(Balls& balls, int W, int H);
 
 }  // namespace animation

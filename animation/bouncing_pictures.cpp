@@ -44,7 +44,7 @@ void BouncingPictures::stop() {
     timer.stop();
 }
 
-// When the field becomes visible again, perhaps only its window gets an event: the field itself need not be repainted.
+// Watches the field and its window: when the field becomes visible again, Qt may send an event only to the window.
 bool BouncingPictures::eventFilter(QObject* watched, QEvent* event) {
     const bool shown = event->type() == QEvent::Show || event->type() == QEvent::Expose;
     if (shown && pace && !timer.isActive()) {
@@ -74,8 +74,8 @@ void BouncingPictures::advance(int passes) {
     for (std::size_t k = 0; k < balls.size(); ++k) {
         const QPoint place(platform::toPixels(balls[k].PosX), platform::toPixels(balls[k].PosY));
         const QRect before = pictures[k]->geometry();
-        // One rectangle around the old and new place paints faster than two.
-        field.update(platform::withReach(field, before | QRect(place, before.size())));
+        // Qt paints one rectangle around the old and the new place faster than two rectangles.
+        field.update(platform::paintedArea(field, before | QRect(place, before.size())));
         pictures[k]->move(place);
     }
 }

@@ -14,16 +14,16 @@
 
 namespace animation {
 
-/// Makes the six ball pictures of a window or panel bounce inside it. While they are not on the screen, they stop and
-/// use no processor time.
+/// Makes six ball pictures bounce in a window or panel. While the window or panel is not on the screen, the pictures
+/// stop and use no processor time.
 class BouncingPictures : public QObject {
     Q_OBJECT
 
   public:
-    /// The field `where` contains the pictures, with the names ip, ir, iv, ig, ib and ij.
+    /// The field `where` must contain six pictures: widgets with the names ip, ir, iv, ig, ib and ij.
     explicit BouncingPictures(QWidget& where);
 
-    /// Scatters the pictures over the field in its current size and starts them.
+    /// Puts the pictures at random places in the field and starts them.
     void start(const RandomSource& random);
     /// Stops the pictures where they are.
     void stop();
@@ -40,8 +40,8 @@ class BouncingPictures : public QObject {
     QWidget& field;
     std::array<QWidget*, std::tuple_size_v<Balls>> pictures{};
     Balls balls{};
-    std::optional<FramePace> pace;  ///< while they bounce
-    QTimer timer;                   ///< runs while they bounce on screen
+    std::optional<FramePace> pace;  ///< set between start() and stop()
+    QTimer timer;                   ///< runs while the pictures bounce on the screen
 };
 
 }  // namespace animation

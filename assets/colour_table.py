@@ -2,13 +2,15 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-"""Can players with any kind of sight tell the six balls apart?
+"""Checks that players with normal colour vision or dichromacy can tell the six balls apart.
 
-Prints, for each folder of pictures, the colour difference (CIEDE2000) of every pair of balls, by mean and by dominant
-colour, for normal sight and for three simulated kinds of dichromacy, and then the smallest of these differences.
-The exit status is 1 if the smallest difference is below LEAST_DIFFERENCE.
+Prints a table for each folder of pictures. The table has the colour difference (CIEDE2000) of every pair of balls, by
+mean colour and by dominant colour, for normal sight and for three simulated kinds of dichromacy. The smallest
+difference follows the table. The exit status is 1 if a difference is less than LEAST_DIFFERENCE, or if the formula
+misses a published value.
 
 Usage: colour_table.py [PICTURES_FOLDER...]
+Without an argument, the folder is assets/pictures.
 """
 import itertools
 import pathlib
@@ -21,7 +23,7 @@ LEAST_DIFFERENCE = 10.0
 BALLS = {"ir": "red", "ib": "blue", "iv": "green", "ij": "yellow", "ip": "magenta", "ig": "slate"}
 PICTURES = pathlib.Path(__file__).resolve().parent / "pictures"
 
-# Machado, Oliveira and Fernandes 2009, severity 1.0; they apply to linear RGB.
+# The matrices of Machado, Oliveira and Fernandes (2009) for severity 1.0. They apply to linear RGB.
 SIGHTS = {
     "normal": np.eye(3),
     "protanopia": np.array([[0.152286, 1.052583, -0.204868],
@@ -38,7 +40,7 @@ XYZ_FROM_RGB = np.array([[0.4124564, 0.3575761, 0.1804375],
                          [0.2126729, 0.7151522, 0.0721750],
                          [0.0193339, 0.1191920, 0.9503041]])
 
-# Sharma, Wu and Dalal 2005: pairs of Lab colours and their difference.
+# Published test values of Sharma, Wu and Dalal (2005): two Lab colours and their difference.
 PUBLISHED = [
     ((50, 2.6772, -79.7751), (50, 0, -82.7485), 2.0425),
     ((50, 2.49, -0.001), (50, -2.49, 0.0011), 7.2195),
@@ -52,7 +54,7 @@ def linear(srgb):
 
 
 def lab(rgb):
-    """CIE Lab (white D65) of a linear RGB colour."""
+    """The CIE Lab values (white point D65) of a linear RGB colour."""
     t = (XYZ_FROM_RGB @ rgb) / XYZ_FROM_RGB.sum(axis=1)
     x, y, z = np.where(t > (6 / 29) ** 3, np.cbrt(t), t * (29 / 6) ** 2 / 3 + 4 / 29)
     return 116 * y - 16, 500 * (x - y), 200 * (y - z)
@@ -78,8 +80,11 @@ def ciede2000(one, other):
 
 
 def ball_colours(path):
-    """Mean and dominant colour of the pixels that are mostly opaque, 0 to 1. For the dominant
-    colour, each channel is divided into eight bins; it is the mean of the fullest bin."""
+    """The mean and the dominant colour of the pixels that are mostly opaque, each channel from 0 to 1.
+
+    Each channel is divided into eight ranges, so there are 8 x 8 x 8 bins. The dominant colour is the mean of the
+    fullest bin.
+    """
     pixels = np.array(Image.open(path).convert("RGBA")).reshape(-1, 4)
     pixels = pixels[pixels[:, 3] > 127, :3]
     bins, members, counts = np.unique(pixels // 32, axis=0, return_inverse=True, return_counts=True)
@@ -91,13 +96,13 @@ def main():
     for one, other, expected in PUBLISHED:
         for pair in ((one, other), (other, one)):
             if abs(ciede2000(*pair) - expected) > 5e-5:
-                sys.exit(f"ciede2000{pair} is {ciede2000(*pair):.4f}, published {expected}")
+                sys.exit(f"ciede2000{pair} is {ciede2000(*pair):.4f}, but the published value is {expected}")
 
     return int(min(map(least_difference, sys.argv[1:] or [PICTURES])) < LEAST_DIFFERENCE)
 
 
 def least_difference(folder):
-    """Prints the table of one folder of pictures, and returns the least difference in it."""
+    """Prints the table of one folder of pictures, and returns the smallest difference in the table."""
     print(folder)
     colours = {name: ball_colours(next(pathlib.Path(folder).glob(f"{file}.*"))) for file, name in BALLS.items()}
     least = np.inf
@@ -109,7 +114,7 @@ def least_difference(folder):
             low = "  too close" if min(mean, dominant) < LEAST_DIFFERENCE else ""
             print(f"  {one + ' - ' + other:16}  {mean:6.1f}  {dominant:8.1f}{low}")
             least = min(least, mean, dominant)
-    print(f"least: {least:.1f}")
+    print(f"smallest difference: {least:.1f}")
     return least
 
 

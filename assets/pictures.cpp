@@ -14,7 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
-// Outside of the namespace, because the macro declares a function of the global namespace.
+// This function is in no namespace: Q_INIT_RESOURCE looks for its function in the namespace around it, and Qt defines
+// that function in the global namespace.
 static void ensureResources() {
     Q_INIT_RESOURCE(pictures);
 }
@@ -22,13 +23,14 @@ static void ensureResources() {
 namespace assets {
 namespace {
 
-/// The vector source of a picture: a part of a drawing, at a place in the pixels of the drawing.
+/// The vector source of a picture: a part of an SVG drawing. `place` is the top left corner of the part, in pixels of
+/// the drawing. The part has the size of the picture's bitmap.
 struct Source {
     QLatin1String name;
     const char* drawing;
     QPoint place{};
     const char* style = nullptr;
-    bool turned = false;  ///< by 180 degrees
+    bool turned = false;  ///< rotated by 180 degrees
 };
 
 constexpr auto sources = std::to_array<Source>({
@@ -54,8 +56,8 @@ QImage draw(const QString& name, QSize natural, QSize pixels) {
     if (source == sources.end()) {
         return {};
     }
-    const platform::VectorPart part{contents(source->drawing), contents(source->style), {source->place, natural}};
-    const QImage image = platform::drawVector(part, pixels);
+    const platform::SvgPart part{contents(source->drawing), contents(source->style), {source->place, natural}};
+    const QImage image = platform::drawSvg(part, pixels);
     return source->turned ? image.transformed(QTransform::fromScale(-1, -1)) : image;
 }
 
@@ -64,7 +66,7 @@ QImage draw(const QString& name, QSize natural, QSize pixels) {
 platform::Picture picture(const QString& name) {
     ensureResources();
     const QFileInfo file(name);
-    // The suffix names the format; without it Qt would try every image plugin.
+    // The suffix tells Qt the format. Without a format, Qt would try every image plugin.
     const QPixmap natural(u":/pictures/"_s + name, file.suffix().toLatin1().constData());
     if (natural.isNull()) {
         return {};

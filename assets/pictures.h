@@ -9,7 +9,7 @@
 
 namespace assets {
 
-/// The picture with this file name ("ir.gif"); an empty picture if there is no such file.
+/// The picture with this file name, such as "ir.gif". Returns an empty picture if there is no such file.
 platform::Picture picture(const QString& name);
 
 }  // namespace assets

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Renders every picture of the game, and the icons of the desktop, from the SVG sources.
-# Needs librsvg2-bin, imagemagick and icoutils; the results are the same byte for byte every time.
+# Renders all pictures of the game and the desktop icons from the SVG sources.
+# Needs librsvg2-bin, imagemagick and icoutils. Every run writes the same bytes.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -11,21 +11,22 @@ field='rgb(128,160,192)' # the steel blue background of the windows
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# render SOURCE WIDTH HEIGHT [STYLE] writes a smooth PNG, averaged down from eight times the size.
+# render SOURCE WIDTH HEIGHT [STYLE]: writes a smooth PNG, drawn at eight times the size and scaled down.
 render() {
     rsvg-convert --width $(($2 * 8)) --height $(($3 * 8)) --stylesheet "${4-/dev/null}" "sources/$1.svg" |
         convert png:- -scale 12.5% -depth 8 -strip png:-
 }
 
-# A pixel of a GIF or icon is either opaque or transparent. Edge pixels that are covered enough are blended with the
-# background, the others become transparent.
+# cut_out COLOURS: reduces a picture to at most COLOURS colours. Each pixel becomes opaque or transparent, as a GIF or
+# an icon needs it. Pixels that are more than 35 % opaque are blended with the background. All others become
+# transparent.
 cut_out() {
     convert png:- \( +clone -alpha extract -threshold 35% \) \
         \( -clone 0 -background "$field" -flatten -alpha off \) -delete 0 +swap \
         -compose CopyOpacity -composite +dither -colors "$1" -depth 8 png:-
 }
 
-# The balls differ in lightness as well as in hue, for players who confuse hues. colour_table.py checks it.
+# The balls differ in hue and in lightness, for players who confuse hues. colour_table.py checks the differences.
 for ball in ir ib iv ij ip ig; do
     render ball 20 20 "sources/$ball.css" | cut_out 256 | convert png:- +dither "pictures/$ball.gif"
 done
@@ -51,7 +52,7 @@ PIECES
 render about 413 344 | convert png:- -alpha off -type TrueColor BMP3:pictures/about.bmp
 
 # The help icon is shown on the steel blue background. The window icon is shown on any background, so its edges are not
-# blended. Its palette is chosen by hand: red, yellow and blue from dark to light, and white.
+# blended. The palette of the window icon is chosen by hand: red, yellow and blue from dark to light, and white.
 render help 32 32 | cut_out 16 >"$work/help.png"
 convert -size 1x1 xc:'#8b0002' xc:'#b60008' xc:'#db000f' xc:'#ee4a2c' xc:'#ffb3a6' \
     xc:'#cd8300' xc:'#f0b400' xc:'#ffe000' xc:'#fff3a0' \
@@ -62,7 +63,7 @@ for name in help zampotine; do
     icotool --create --output "pictures/$name.ico" "$work/$name.png"
 done
 
-# Icons for the desktop: their edges are half transparent, and the files contain nothing but the pixels.
+# The desktop icons have partly transparent edges. Their files contain only the pixels, without metadata.
 mkdir -p icons
 for size in 16 22 24 32 48 64 128 256 512; do
     rsvg-convert --width $size --height $size sources/zampotine.svg |

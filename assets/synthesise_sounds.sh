@@ -2,25 +2,27 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Synthesises the five sounds: bubbles that pop on marimba notes, climbing higher for bigger groups.
-# Needs sox; the results are the same byte for byte every time.
+# Synthesises the five sounds: bubbles that pop on marimba notes. The highest note rises with the size of the
+# group.
+# Needs sox. Every run writes the same bytes.
 set -euo pipefail
 cd "$(dirname "$0")"
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# Semitones above the A of 440 Hz; the major pentatonic, in which any notes sound well together.
+# Semitones above A4 (440 Hz). All notes of this scale, the major pentatonic, sound good together.
 declare -A semitone=([C4]=-9 [G4]=-2 [C5]=3 [D5]=5 [E5]=7 [G5]=10 [A5]=12 [C6]=15 [D6]=17 [E6]=19 [G6]=22)
 
-# partial FILE START LENGTH PITCH DECIBELS: a sine that begins at START and fades exponentially.
+# partial FILE START LENGTH PITCH DECIBELS: writes a sine tone that begins after START seconds and fades exponentially
+# within LENGTH seconds. PITCH is %SEMITONES above A4, or %FROM/%TO for a tone that slides. DECIBELS is the gain.
 partial() {
     sox -R -D -n -r 44100 -c 1 -e floating-point -b 32 "$1" synth "$3" sine "$4" \
         fade t 0.003 fade l 0 "$3" "$3" gain "$5" pad "$2"
 }
 
-# sound FILE LENGTH PEAK RING START:NOTE...: times in seconds, PEAK in decibels of full scale. Each note fades within
-# RING.
+# sound FILE LENGTH PEAK RING START:NOTE...: writes a sound of LENGTH seconds. Each note begins after START seconds and
+# fades within RING seconds. PEAK is the level of the loudest sample, in decibels relative to full scale.
 sound() {
     local file=$1 length=$2 peak=$3 ring=$4 note tone part parts=()
     shift 4

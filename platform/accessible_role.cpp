@@ -11,7 +11,8 @@
 namespace platform {
 namespace {
 
-// Stores the role with its control until a screen reader asks for the control's interface.
+// Stores a control's role in a child object of the control. Qt creates the control's interface later, when a screen
+// reader asks for it.
 class RoleOfParent : public QObject {
   public:
     RoleOfParent(QWidget& control, AccessibleRole given) : QObject(&control), role(std::move(given)) {}
@@ -29,7 +30,7 @@ class Interface : public QAccessibleWidget {
         return isItsName ? label->text() : QAccessibleWidget::text(kind);
     }
 
-    // A notification without a text would be read out as an empty one.
+    // A screen reader would read out a notification even if its text is empty.
     QAccessible::Role role() const override {
         const bool saysNothing = known.role == QAccessible::Notification && text(QAccessible::Name).isEmpty();
         return saysNothing ? QAccessible::StaticText : known.role;
@@ -41,7 +42,7 @@ class Interface : public QAccessibleWidget {
 
     void doAction(const QString& action) override {
         if (actionNames().contains(action)) {
-            // A press may take time, and the screen reader waits for the answer to this call.
+            // Queued: the screen reader waits until doAction() returns, and a press may take long.
             QMetaObject::invokeMethod(
                 widget(),
                 [control = widget(), press = known.press] {
@@ -77,10 +78,10 @@ QAccessibleInterface* create(const QString&, QObject* object) {
 }  // namespace
 
 void setAccessibleRole(QWidget& control, AccessibleRole role) {
-    QAccessible::installFactory(create);  // Qt ignores every call but the first
+    QAccessible::installFactory(create);  // Qt installs the same function only once
     new RoleOfParent(control, std::move(role));
     if (QAccessible::isActive()) {
-        // Drop the interface that Qt may already have made for this control; ours replaces it.
+        // Qt may already have created an interface without the role. After its deletion, Qt creates one with the role.
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&control)));
     }
 }

@@ -10,19 +10,19 @@
 
 namespace platform {
 
-/// What Qt cannot tell a screen reader about a control by itself.
+/// Facts about a control for screen readers, in addition to the facts that Qt provides.
 struct AccessibleRole {
     QAccessible::Role role = QAccessible::NoRole;
-    std::function<void()> press;  ///< the action "press"; may be empty
-    QString key;                  ///< the key for the same action; may be empty
+    std::function<void()> press;  ///< the press action; may be empty
+    QString key;                  ///< the shortcut of the press action; may be empty
 };
 
-/// Gives a control a role for screen readers. They read its accessible name, or its text if it has none, and its
-/// accessible description, or its tooltip if it has none. The press action does nothing while the control is hidden.
-/// Call it once for a control.
+/// Gives a control a role for screen readers. Do not call this function twice for a control. Screen readers read the
+/// control's accessible name, or the text of a label that has no accessible name. They also read the accessible
+/// description, or the tooltip of a control that has no description. The press action of a hidden control does nothing.
 void setAccessibleRole(QWidget& control, AccessibleRole role);
 
-/// Makes screen readers read out a control with the role QAccessible::Notification.
+/// Makes screen readers read out a control whose role is QAccessible::Notification.
 void announce(QWidget& notification);
 
 }  // namespace platform

@@ -77,7 +77,7 @@ QString controlName(const char* name, int index) {
 }
 
 void buildControls(std::span<const ControlRow> rows, QWidget& container, const PictureSource& picture) {
-    // Qt puts a new widget in front of its siblings.
+    // The last row is created first: Qt puts each new widget in front of its siblings.
     std::for_each(rows.rbegin(), rows.rend(), [&](const ControlRow& row) { createControl(row, container, picture); });
 }
 

@@ -19,7 +19,7 @@ enum class Kind { frame, label, picture, option, checkBox, textBox, shape };
 /// One control of a window, with its initial values.
 struct ControlRow {
     const char* name = "";
-    int index = -1;  ///< in its control array; -1 for a control outside of an array
+    int index = -1;  ///< index in a control array; -1 for a control that is in no array
     Kind kind = Kind::label;
     Box place{};
     const char* text = "";
@@ -28,7 +28,7 @@ struct ControlRow {
     FontSize size = FontSize::small;
     bool bold = false;
     Qt::Alignment align = Qt::AlignLeft;
-    bool autoSize = false;  ///< takes the size of its text
+    bool autoSize = false;  ///< the control takes the size of its text
     bool wraps = false;
     bool hidden = false;
     QRgb colour = qRgb(0, 0, 0);
@@ -37,14 +37,14 @@ struct ControlRow {
 /// Finds a picture by its file name.
 using PictureSource = std::function<Picture(const QString& name)>;
 
-/// Creates the controls inside a window or frame and names each with controlName(). The rows are in the order front to
-/// back: where controls overlap, the earlier one covers the later ones.
+/// Creates one control in the container for each row. The control's object name is controlName() of the row's name and
+/// index. Where two controls overlap, the control of the earlier row is in front.
 void buildControls(std::span<const ControlRow> rows, QWidget& container, const PictureSource& picture);
 
 /// The object name of a control: "sc", or "Option1(3)" for an element of a control array.
 QString controlName(const char* name, int index = -1);
 
-/// The control of a window with this name, which must exist and be of this type.
+/// Finds a control of the window by its name. The control must exist and be a `Widget`.
 template <typename Widget>
 Widget* control(const QWidget& window, const char* name, int index = -1) {
     auto* found = window.findChild<Widget*>(controlName(name, index));

@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 namespace platform {
 namespace {
 
-// Moves the window itself, because on X11 a system move that begins with the middle or right button does not end at the
-// release of that button.
+// Moves the window without the window manager. On X11, a move by the window manager that begins with the middle or
+// right button does not end when the player releases that button.
 class Drag : public QObject {
   public:
     Drag(QWidget& pressed, const QMouseEvent& press)
@@ -22,8 +22,8 @@ class Drag : public QObject {
           control(pressed),
           button(press.button()),
           grip(press.globalPosition().toPoint() - pressed.window()->pos()) {
-        // On the application, because the press may still be on its way through the control's own filters, and because
-        // a child of the window may receive the mouse.
+        // The filter is installed on the application for two reasons. Qt may still be sending the press through the
+        // control's own filters. Also, Qt may send mouse events to a child of the window instead of the control.
         qApp->installEventFilter(this);
     }
 
@@ -34,7 +34,7 @@ class Drag : public QObject {
         switch (event->type()) {
             case QEvent::MouseButtonPress:
             case QEvent::MouseButtonDblClick:
-                if (isHeldAt(*static_cast<QMouseEvent*>(event))) {
+                if (isOtherButton(*static_cast<QMouseEvent*>(event))) {
                     return true;
                 }
                 end();
@@ -55,8 +55,9 @@ class Drag : public QObject {
     }
 
   private:
-    // False if the release of the drag's button never reached us.
-    bool isHeldAt(const QMouseEvent& press) const {
+    // True for a press of another button while the drag's button is still down. False means that the program missed the
+    // release of the drag's button.
+    bool isOtherButton(const QMouseEvent& press) const {
         return press.button() != button && press.buttons().testFlag(button);
     }
 
@@ -65,7 +66,7 @@ class Drag : public QObject {
         if (released || mouse.buttons().testFlag(button)) {
             control.window()->move(mouse.globalPosition().toPoint() - grip);
         }
-        // The next move shows that the release never reached us.
+        // If the button is up, the event is its release, or the first move after a release that the program missed.
         if (!mouse.buttons().testFlag(button)) {
             end();
         }
@@ -78,7 +79,7 @@ class Drag : public QObject {
 
     QWidget& control;
     Qt::MouseButton button;
-    QPoint grip;  // the pointer inside the window, in pixels
+    QPoint grip;  // the pointer, relative to the window's position, in layout pixels
 };
 
 }  // namespace

@@ -8,8 +8,9 @@ class QWidget;
 
 namespace platform {
 
-/// Moves the window of a control with the pointer, from a press on the control until the release of that button. During
-/// the drag, no control of the window receives the mouse. On Wayland the compositor moves the window.
+/// Moves the window of a control along with the pointer. `press` is the press on the control that starts the drag. The
+/// drag ends when the player releases the button of this press, or when the control is hidden. During the drag, no
+/// control of the window receives mouse events. On Wayland, the compositor does all this instead.
 void dragWindow(QWidget& control, const QMouseEvent& press);
 
 }  // namespace platform

@@ -73,8 +73,8 @@ bool greetSessionManager() {
 
 struct Service {
     bool (*mayBeThere)();
-    bool (*greet)();       ///< waits for an answer; false if Qt must not use the service
-    const char* variable;  ///< the environment variable with its address
+    bool (*greet)();       ///< waits for the service's answer; false if Qt must not use the service
+    const char* variable;  ///< the environment variable with the service's address
     const char* hidden;    ///< the value that makes Qt skip the service
 };
 
@@ -84,13 +84,13 @@ constexpr std::array services{
     Service{mayHaveSessionManager, greetSessionManager, sessionManagerVariable, ""},
 };
 
-/// A process that greets a service, because a greeting may never end. Both members are -1 if there is no process.
+/// A child process that greets a service: a greeting may hang or crash. Both members are -1 if there is no process.
 struct Greeter {
     pid_t process = -1;
     int ending = -1;  ///< a pipe that closes when the process ends
 };
 
-Greeter greeterOf(const Service& service) {
+Greeter startGreeter(const Service& service) {
     std::array<int, 2> ends{};
     if (!service.mayBeThere() || pipe2(ends.data(), O_CLOEXEC) != 0) {
         return {};
@@ -111,7 +111,8 @@ Greeter greeterOf(const Service& service) {
     return {process, ends[0]};
 }
 
-/// Waits for the process until the deadline. Returns whether the process has succeeded by then.
+/// Waits for the process. Kills the process if it is still running at the deadline. Returns true if the process ended
+/// in time and with success.
 bool succeedsBy(Clock::time_point deadline, const Greeter& greeter) {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
     pollfd ending{.fd = greeter.ending, .events = POLLIN, .revents = 0};
@@ -127,9 +128,10 @@ bool succeedsBy(Clock::time_point deadline, const Greeter& greeter) {
 }  // namespace
 
 void hideFaultyServices() {
-    std::signal(SIGCHLD, SIG_DFL);  // if the parent process ignored it, waitpid() would report no status
+    // The parent process may have set this program to ignore SIGCHLD. waitpid() would then report no status.
+    std::signal(SIGCHLD, SIG_DFL);
     std::array<Greeter, services.size()> greeters;
-    std::ranges::transform(services, greeters.begin(), greeterOf);
+    std::ranges::transform(services, greeters.begin(), startGreeter);
     const auto deadline = Clock::now() + std::chrono::milliseconds(1500);
     for (std::size_t i = 0; i < services.size(); ++i) {
         const Greeter& greeter = greeters[i];
@@ -138,7 +140,7 @@ void hideFaultyServices() {
         }
         if (!succeedsBy(deadline, greeter)) {
             qputenv(services[i].variable, services[i].hidden);
-            qWarning("The service in %s does not answer properly and is not used.", services[i].variable);
+            qWarning("The service for %s does not answer properly and is not used.", services[i].variable);
         }
         close(greeter.ending);
     }

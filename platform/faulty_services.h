@@ -5,10 +5,10 @@
 
 namespace platform {
 
-/// Hides the session bus, the accessibility bus or the session manager from this program if the first answer of that
-/// service takes more than 1.5 seconds or crashes a library. Also hides a session manager that refuses the connection.
-/// Otherwise Qt would crash, or wait for minutes before it shows a window. Call it before Qt starts, while the program
-/// has a single thread.
+/// Hides each of these services from Qt if it is faulty: the session bus, the accessibility bus, the session manager. A
+/// service is faulty if its first answer takes more than 1.5 seconds or crashes a library. A session manager that
+/// refuses the connection is also faulty. With a faulty service, Qt would crash, or wait for minutes before it shows a
+/// window. Call this function before Qt starts, while the program has a single thread.
 void hideFaultyServices();
 
 }  // namespace platform

@@ -14,15 +14,16 @@
 namespace platform {
 namespace {
 
-// A line whose letters would end below the label is centred: only blank rows are then cut off.
+// If the letters of a line would end below the label, the line is centred vertically. The label then cuts off only the
+// blank rows above and below the letters.
 Qt::Alignment alignmentFor(const QLabel& label, const QFontMetrics& metrics) {
     const bool whole = metrics.ascent() + metrics.tightBoundingRect(label.text()).bottom() < label.height();
     return whole ? label.alignment() : (label.alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
 }
 
-constexpr int roomBelow = 3;  // pixels below a label in which letters may end
+constexpr int roomBelow = 3;  // letters may extend this many layout pixels below the label
 
-// The number of rows from the top to the last row that is not blank, in an image on a transparent ground.
+// The height of the image without the blank rows at its bottom. Blank pixels are transparent.
 int rowsWithInk(const QImage& image) {
     int rows = image.height();
     const auto isBlank = [&](int row) {
@@ -67,15 +68,15 @@ void Label::paintEvent(QPaintEvent*) {
     if (look != drawnAs) {
         drawnAs = look;
         drawn = draw();
-        if (const QRect reached = withReach(*this, geometry()); reached != geometry()) {
-            parentWidget()->update(reached);
+        if (const QRect painted = paintedArea(*this, geometry()); painted != geometry()) {
+            parentWidget()->update(painted);
         }
     }
     painter.draw({}, drawn);
 }
 
-// At finer scales letters can extend below their metrics; the text is then drawn that much higher, into the blank rows
-// at the top.
+// At scales above 100 %, letters can extend below their font metrics, and so below the label. The text is then drawn
+// higher by the excess, into the blank rows at the top.
 QPixmap Label::draw() const {
     const QImage image = draw(0);
     const int excess = rowsWithInk(image) - drawnAs.size.height();
@@ -99,7 +100,8 @@ QImage Label::draw(int raisedBy) const {
 }
 
 void Label::drawParagraph(QPainter& painter) const {
-    // Leaves space for a line that begins with j, the only letter that extends to the left of its origin.
+    // A line may begin with a letter that extends to the left of its origin, such as j. Both sides get the same margin,
+    // so that centred text stays centred.
     const int overhang = std::max(0, -painter.fontMetrics().leftBearing(u'j'));
     painter.drawText(rect().adjusted(overhang, 0, -overhang, 0), static_cast<int>(alignment()) | Qt::TextWordWrap,
                      text());

@@ -7,31 +7,33 @@
 
 namespace platform {
 
-/// The font, condensed just enough for a line of text to fit a width in pixels, but to no less than half its width.
+/// Returns the font, condensed if the text is too wide for one line of `width` pixels. Letters keep at least half their
+/// normal width, so a very long text may still be too wide.
 QFont condensed(QFont font, const QString& text, int width);
 
-/// A text that is never clipped: a line that is too wide is condensed, a line that is too high is centred. Everything
-/// happens when the label is painted, so that no font is loaded before the window is on the screen.
+/// A label that does not clip its text. A line that is too wide is condensed. A line that is too high is centred
+/// vertically. The label measures its text only when it is painted, so that no font is loaded before the window is on
+/// the screen.
 class Label : public QLabel {
     Q_OBJECT
 
   public:
     using QLabel::QLabel;
 
-    /// Whether the label takes the size of its text.
+    /// Sets whether the label takes the size of its text at each painting.
     void setSizedToText(bool sized);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    /// Everything on which the pixels of the text depend.
+    /// Everything that determines the pixels of the text.
     struct Look {
         QString text;
         QFont font;
         QColor colour;
         QSize size;    ///< screen pixels
-        double ratio;  ///< screen pixels to a layout pixel
+        double ratio;  ///< screen pixels per layout pixel
         bool operator==(const Look&) const = default;
     };
 
@@ -41,7 +43,8 @@ class Label : public QLabel {
     void drawLine(QPainter& painter) const;
 
     bool sizedToText = false;
-    // The text as it was last drawn. While balls move behind it, drawing it again would be most of the work.
+    // The text as it was last drawn. While balls move behind the label, drawing its text again for each frame would be
+    // most of the work.
     QPixmap drawn;
     Look drawnAs{};
 };

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace platform {
 namespace {
 
-// Fusion, with a gap between indicator and text that fits the width of the options.
+// The Fusion style. The sizes of indicators and of the gaps beside them fit the widths of the options.
 class Style : public QProxyStyle {
   public:
     Style() : QProxyStyle(u"fusion"_s) {}
@@ -64,7 +64,7 @@ QFont uiFont(FontSize size, QFont::Weight weight) {
 
 void applyLook() {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    // Under a dark desktop, the style would draw light outlines, which do not show on this light palette.
+    // On a dark desktop, the style would draw light outlines. They would not show on this light palette.
     QGuiApplication::styleHints()->setColorScheme(Qt::ColorScheme::Light);
 #endif
     QApplication::setStyle(new Style);

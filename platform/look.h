@@ -14,11 +14,11 @@ inline constexpr QRgb steelBlue = qRgb(128, 160, 192);
 /// Sizes of the windows' fonts, in pixels.
 enum class FontSize { small = 11, medium = 16, large = 32 };
 
-/// The windows' font, Liberation Sans, for whose widths the layout was made. Its size is in pixels, so that the font
-/// settings of the desktop do not change it.
+/// The font of the windows: Liberation Sans, or a similar font if it is not installed. The layout is made for the
+/// widths of Liberation Sans. The size is in pixels, so the font settings of the desktop do not change it.
 QFont uiFont(FontSize size = FontSize::small, QFont::Weight weight = QFont::Normal);
 
-/// Sets style, palette and fonts, the same on every desktop.
+/// Sets the style, the palette and the fonts of the program. They are the same on every desktop.
 void applyLook();
 
 }  // namespace platform

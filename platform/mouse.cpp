@@ -12,7 +12,7 @@
 namespace platform {
 namespace {
 
-// Calls a function with each event of a control before the control handles it.
+// Passes each event of a control to a function before the control handles the event.
 template <typename Function>
 class Listener : public QObject {
   public:
@@ -34,7 +34,7 @@ void listen(QWidget& control, Function function) {
     new Listener<Function>(control, std::move(function));
 }
 
-// The second press of a double click is a press like any other.
+// For the second press of a double click, Qt sends MouseButtonDblClick instead of MouseButtonPress.
 bool isPress(const QEvent& event) {
     return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
 }

@@ -9,7 +9,7 @@
 namespace platform {
 
 void openAddress(const QString& address) {
-    // If no program opens the address, Qt would write a warning to standard error.
+    // If no program can open the address, Qt would write a warning to standard error.
     const QtMessageHandler usual = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     QDesktopServices::openUrl(QUrl(address));
     qInstallMessageHandler(usual);

@@ -7,8 +7,8 @@
 
 namespace platform {
 
-/// Opens a mail or web address ("mailto:…", "https://…") with the player's program for it, and percent-encodes its
-/// blanks. Nothing happens if there is no such program.
+/// Opens a mail address ("mailto:…") or a web address ("https://…") in the player's mail program or browser. Blanks in
+/// the address are percent-encoded. Nothing happens if there is no such program.
 void openAddress(const QString& address);
 
 }  // namespace platform

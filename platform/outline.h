@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// The outline of a rectangle, one pixel wide, in the text colour. The mouse reaches the control under it.
+/// The outline of a rectangle, one layout pixel thick, in the text colour. Mouse events go to the control behind it.
 class Outline : public QWidget {
     Q_OBJECT
 

@@ -14,7 +14,7 @@ namespace platform {
 struct Picture::Rendered {
     QPixmap natural;
     Renderer render;
-    std::vector<QPixmap> others;  // at other sizes, the newest at the end
+    std::vector<QPixmap> others;  // renderings at other sizes, the newest at the end
 };
 
 Picture::Picture(const QPixmap& natural, Renderer renderer)
@@ -36,7 +36,8 @@ QPixmap Picture::inPixels(QSize pixels) const {
     if (found != others.end()) {
         return *found;
     }
-    // Rounding leads to at most four sizes at one scale. Sizes of an earlier scale are no longer needed.
+    // At one scale, rounding gives a picture at most four sizes. If there are more, the oldest size belongs to an
+    // earlier scale and is no longer needed.
     constexpr std::size_t most = 4;
     if (others.size() == most) {
         others.erase(others.begin());
@@ -47,13 +48,13 @@ QPixmap Picture::inPixels(QSize pixels) const {
     return others.back();
 }
 
-Picture Picture::on(const QColor& ground) const {
+Picture Picture::onBackground(const QColor& colour) const {
     if (shared == nullptr) {
         return {};
     }
-    const auto compose = [ground](const QPixmap& picture) {
+    const auto compose = [colour](const QPixmap& picture) {
         QPixmap opaque(picture.size());
-        opaque.fill(ground);
+        opaque.fill(colour);
         QPainter(&opaque).drawPixmap(0, 0, picture);
         return opaque;
     };

@@ -10,28 +10,28 @@
 
 namespace platform {
 
-/// A picture that is sharp at every scale: its file at its natural size, a rendering of its vector source at every
-/// other size. Copies share what was rendered.
+/// A picture that is sharp at every scale. At its natural size it is the picture of its file. At every other size it is
+/// rendered from its vector source. Copies of a Picture share their renderings.
 class Picture {
   public:
-    /// Renders the picture at a size in device pixels; returns a null image if it cannot.
+    /// Renders the picture at a size in screen pixels. Returns a null image on failure.
     using Renderer = std::function<QImage(QSize pixels)>;
 
-    /// No picture.
+    /// An empty picture, which draws nothing.
     Picture() = default;
     Picture(const QPixmap& natural, Renderer renderer);
 
-    /// The natural size, in pixels; empty if there is no picture.
+    /// The natural size, in pixels. An empty picture has an empty size.
     QSize size() const;
 
-    /// The picture at a size in device pixels. If it cannot be rendered, it is stretched.
+    /// The picture at a size in screen pixels. If rendering fails, the picture of the natural size is stretched.
     QPixmap inPixels(QSize pixels) const;
 
-    /// The same picture on an opaque ground, so that it is copied to the screen instead of blended.
-    /// No picture stays none.
-    Picture on(const QColor& ground) const;
+    /// The picture on an opaque background. Qt copies an opaque picture to the screen instead of blending it.
+    /// An empty picture stays empty.
+    Picture onBackground(const QColor& colour) const;
 
-    /// Whether both are the same picture.
+    /// True if both are copies of one Picture, or both are empty.
     bool operator==(const Picture&) const = default;
 
   private:

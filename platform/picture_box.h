@@ -9,7 +9,7 @@
 
 namespace platform {
 
-/// A picture control.
+/// A control that shows a picture at its natural size.
 class PictureBox : public QWidget {
     Q_OBJECT
 

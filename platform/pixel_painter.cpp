@@ -30,7 +30,7 @@ void PixelPainter::draw(QPoint place, const Picture& picture, const QRegion& reg
     const QRect area = pixels({place, picture.size()});
     const QPixmap image = picture.inPixels(area.size());
     for (const QRect& part : region) {
-        // A screen pixel that is touched at all is painted whole.
+        // A screen pixel is painted if the region touches any part of it.
         const QRect touched = toScreen.mapRect(QRectF(part)).toAlignedRect() & area;
         painter.drawPixmap(touched, image, touched.translated(-area.topLeft()));
     }
@@ -49,7 +49,7 @@ void PixelPainter::draw(QPoint place, const QPixmap& image) {
     painter.drawPixmap(toScreen.map(QPointF(place)).toPoint(), image);
 }
 
-QRect withReach(const QWidget& widget, const QRect& area) {
+QRect paintedArea(const QWidget& widget, const QRect& area) {
     const double ratio = widget.devicePixelRatioF();
     const int reach = ratio == std::floor(ratio) ? 0 : 1;
     return area.adjusted(-reach, -reach, reach, reach);

@@ -11,22 +11,22 @@ class QRegion;
 
 namespace platform {
 
-/// Paints pictures and outlines on a widget in whole screen pixels: at no scale is a picture blurred across two pixels
-/// or separated from its neighbour by a seam. Places and sizes are in layout pixels.
+/// Paints pictures and outlines on a widget and rounds their edges to whole screen pixels. So edges stay sharp at every
+/// scale, and there is no gap between adjacent pictures. Places and sizes are in layout pixels.
 class PixelPainter {
   public:
     explicit PixelPainter(QWidget& widget);
 
-    /// The screen pixels of an area, in the coordinates of the painter: each edge is rounded to the nearest one.
+    /// Converts an area from layout pixels to screen pixels. Each edge is rounded to the nearest whole screen pixel.
     QRect pixels(const QRect& area) const;
 
-    /// Draws a picture.
+    /// Draws a picture at its natural size.
     void draw(QPoint place, const Picture& picture);
     /// Draws the part of a picture that is inside a region.
     void draw(QPoint place, const Picture& picture, const QRegion& region);
-    /// Draws the outline of an area. Thickness of each side: one layout pixel, rounded to whole screen pixels.
+    /// Draws an outline inside the edges of an area. Thickness: one layout pixel, rounded to whole screen pixels.
     void drawOutline(const QRect& area, const QColor& colour);
-    /// Draws an image whose size is in screen pixels.
+    /// Draws an image without scaling: each pixel of the image is one screen pixel.
     void draw(QPoint place, const QPixmap& image);
 
   private:
@@ -34,7 +34,8 @@ class PixelPainter {
     QTransform toScreen;
 };
 
-/// The area, one pixel larger on each side at fractional scales, where rounding may paint outside it.
-QRect withReach(const QWidget& widget, const QRect& area);
+/// The area that may change when a picture or outline is painted in `area`. At whole scales, this is `area`. At
+/// fractional scales, rounding may paint outside `area`, so the result is one layout pixel larger on each side.
+QRect paintedArea(const QWidget& widget, const QRect& area);
 
 }  // namespace platform

@@ -18,7 +18,8 @@
 namespace platform {
 namespace {
 
-// Few calls are safe in a signal handler: it writes a byte to this pipe, which wakes the event loop.
+// Only a few functions are safe in a signal handler; write() is one of them. The handler writes a byte to this pipe,
+// and the byte wakes Qt's event loop.
 std::array<int, 2> wake{-1, -1};  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables): handlers take no data
 
 void wakeUp(int) {
@@ -36,7 +37,8 @@ void handle(int signal, void (*handler)(int)) {
     sigaction(signal, &handling, nullptr);
 }
 
-// Without a display, Qt logs a fatal message and would then abort with a core file.
+// Qt aborts the program after a fatal message, for example "no display", and leaves a core file. This handler exits
+// before that.
 void logMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     std::cerr << qPrintable(qFormatLogMessage(type, context, message)) << std::endl;
     if (type == QtFatalMsg) {
@@ -44,7 +46,8 @@ void logMessage(QtMsgType type, const QMessageLogContext& context, const QString
     }
 }
 
-// When the session manager disappears, the library that Qt loads for it would call exit() at once.
+// Qt talks to the session manager through libICE. If the session manager disappears, libICE would call exit() at once.
+// With this handler, the program quits as after a signal.
 void outliveSessionManager() {
     void* (*setErrorHandler)(void (*)(void*)) = nullptr;
     void* library = dlopen("libICE.so.6", RTLD_NOW | RTLD_NOLOAD);
@@ -57,11 +60,12 @@ void outliveSessionManager() {
 
 void prepareProcess() {
     qInstallMessageHandler(&logMessage);
-    // With a handler, because started programs would inherit that the signals are ignored.
+    // An empty handler, not SIG_IGN: programs that this program starts would inherit SIG_IGN.
     for (const int signal : {SIGPIPE, SIGXFSZ}) {
         handle(signal, [](int) {});
     }
-    // open() returns the lowest free descriptor: one above the standard streams shows that all three are open.
+    // open() returns the lowest free descriptor, so this loop opens each closed standard stream as /dev/null. A
+    // descriptor above the standard streams shows that all three are open.
     int descriptor = 0;
     while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
         descriptor = open("/dev/null", O_RDWR);

@@ -12,8 +12,8 @@
 namespace platform {
 namespace {
 
-// When the desktop moves a window to a screen of another scale, Qt keeps its size in screen pixels; this restores the
-// layout size.
+// When a window moves to a screen of another scale, Qt keeps the window's size in screen pixels. SizeKeeper restores
+// the window's size in layout pixels.
 class SizeKeeper : public QObject {
   public:
     explicit SizeKeeper(QWidget& window) : QObject(&window) { window.installEventFilter(this); }

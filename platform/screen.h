@@ -9,11 +9,12 @@ class QWidget;
 
 namespace platform {
 
-/// The full screen that shows a window, or showed it last, in twips; the primary screen before the window is first
-/// shown. Left and Top are its origin on the desktop.
+/// The place and size, in twips, of the whole screen that shows a window or showed it last. Before the window is first
+/// shown, this is the primary screen. Left and Top are the place of the screen on the desktop. All members are 0 if
+/// there is no screen.
 Box screenOf(const QWidget& window);
 
-/// Keeps the fixed size of a window, in layout pixels, when the window moves to a screen of another scale.
+/// Keeps a window of fixed size at that size in layout pixels, even when it moves to a screen of another scale.
 void keepSizeOnEveryScreen(QWidget& window);
 
 }  // namespace platform

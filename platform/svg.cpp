@@ -16,14 +16,14 @@ auto owned(Object* object, Release release) {
 }
 
 const guint8* bytesOf(const QByteArray& text) {
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): bytes are bytes
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): librsvg reads unsigned bytes
     return reinterpret_cast<const guint8*>(text.constData());
 }
 
 }  // namespace
 
-QImage drawVector(const VectorPart& part, QSize pixels) {
-    const VectorLibrary* const library = vectorLibrary();
+QImage drawSvg(const SvgPart& part, QSize pixels) {
+    const SvgLibrary* const library = svgLibrary();
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
     if (library == nullptr || image.isNull()) {
         return {};

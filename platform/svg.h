@@ -9,15 +9,15 @@
 
 namespace platform {
 
-/// A part of a vector drawing, in the pixels of the drawing.
-struct VectorPart {
-    QByteArray svg;
+/// A rectangular part of an SVG drawing.
+struct SvgPart {
+    QByteArray svg;  ///< the whole drawing
     QByteArray css;  ///< styles that override those of the drawing; may be empty
-    QRect area;
+    QRect area;      ///< the part, in pixels of the drawing
 };
 
-/// Draws the part on a transparent ground, stretched to a size in pixels. Returns a null image if the library is not
-/// installed or the drawing cannot be read.
-QImage drawVector(const VectorPart& part, QSize pixels);
+/// Draws the part on a transparent background, stretched to a size in pixels. Returns a null image if librsvg is not
+/// installed, if it cannot read the drawing, or if the size is empty.
+QImage drawSvg(const SvgPart& part, QSize pixels);
 
 }  // namespace platform

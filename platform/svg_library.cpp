@@ -8,7 +8,7 @@
 namespace platform {
 namespace {
 
-bool load(VectorLibrary& functions) {
+bool load(SvgLibrary& functions) {
     // dlsym() finds the functions of GObject and Cairo through librsvg, which depends on them.
     void* library = loadLibrary("librsvg-2.so.2");
     return library != nullptr && resolve(library, "rsvg_handle_new_from_data", functions.newDrawing) &&
@@ -25,8 +25,8 @@ bool load(VectorLibrary& functions) {
 
 }  // namespace
 
-const VectorLibrary* vectorLibrary() {
-    static VectorLibrary functions{};
+const SvgLibrary* svgLibrary() {
+    static SvgLibrary functions{};
     static const bool loaded = load(functions);
     return loaded ? &functions : nullptr;
 }

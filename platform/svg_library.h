@@ -8,8 +8,9 @@
 namespace platform {
 
 /// The functions of librsvg, GObject and Cairo that the program uses. They are loaded when a picture is first drawn
-/// from its vector source, which most screens never need: loading them takes longer than dealing a game.
-struct VectorLibrary {
+/// from its vector source. Loading them takes longer than dealing a game, and at a scale of 100 % no picture needs
+/// them.
+struct SvgLibrary {
     decltype(&rsvg_handle_new_from_data) newDrawing;
     decltype(&rsvg_handle_set_stylesheet) setStylesheet;
     decltype(&rsvg_handle_render_document) renderDocument;
@@ -23,7 +24,7 @@ struct VectorLibrary {
     decltype(&cairo_translate) translate;
 };
 
-/// The loaded library, or null if it is not installed.
-const VectorLibrary* vectorLibrary();
+/// Returns the functions, or null if librsvg is not installed. The first call loads the library.
+const SvgLibrary* svgLibrary();
 
 }  // namespace platform

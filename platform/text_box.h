@@ -9,15 +9,15 @@ class QLineEdit;
 
 namespace platform {
 
-/// A one-line text box without a context menu. Qt's editor loads fonts when it is created, so it is created at the
-/// first painting, when the window is already on the screen.
+/// A one-line text box without a context menu. A QLineEdit loads fonts when it is created. So the text box creates its
+/// QLineEdit only at the first painting, when the window is already on the screen.
 class TextBox : public QWidget {
     Q_OBJECT
 
   public:
     explicit TextBox(QString text, QWidget* parent = nullptr);
 
-    /// The current text, typed or set.
+    /// The current text, as the player typed it or as the program set it.
     QString text() const;
     void setText(const QString& text);
 
@@ -27,7 +27,7 @@ class TextBox : public QWidget {
   private:
     void createEditor();
 
-    QString initial;  // until there is an editor
+    QString initial;  // the text until there is an editor
     QLineEdit* editor = nullptr;
 };
 

@@ -7,10 +7,10 @@
 
 namespace platform {
 
-/// The windows are laid out in twips: 15 to a layout pixel.
+/// Windows are laid out in twips. A layout pixel has 15 twips.
 inline constexpr int twipsPerPixel = 15;
 
-/// The nearest whole number of layout pixels for a place or length in twips; a half is rounded away from zero.
+/// Converts a place or length in twips to the nearest whole number of layout pixels.
 constexpr int toPixels(int twips) {
     constexpr int half = twipsPerPixel / 2;
     return (twips < 0 ? twips - half : twips + half) / twipsPerPixel;
@@ -20,7 +20,7 @@ constexpr int toTwips(int pixels) {
     return pixels * twipsPerPixel;
 }
 
-/// A place inside its container and a size, in twips.
+/// A place and a size, in twips. The place is relative to the container.
 struct Box {
     int Left;
     int Top;

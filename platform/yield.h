@@ -10,7 +10,7 @@ namespace platform {
 /// Handles all pending events (input, repaints, timers) and returns.
 void yield();
 
-/// Handles events for this time, as they arrive.
+/// Handles events as they arrive, until `duration` is over. The duration is rounded up to whole milliseconds.
 void pause(std::chrono::microseconds duration);
 
 }  // namespace platform

@@ -26,7 +26,7 @@ BoardWidget::BoardWidget(QWidget& window, const rules::Board& board) : QWidget(&
     setMouseTracking(true);
     std::ranges::transform(rules::codes, balls.begin(), [this](rules::Code code) {
         const QString file = u"i%1.gif"_s.arg(QLatin1Char(static_cast<char>(code)));
-        return assets::picture(file).on(palette().color(QPalette::Window));
+        return assets::picture(file).onBackground(palette().color(QPalette::Window));
     });
 }
 
@@ -71,7 +71,7 @@ void BoardWidget::setCursorShown(bool show) {
 }
 
 void BoardWidget::updateCursor() {
-    update(platform::withReach(*this, cursorRing(cellArea(shownBoard, cursorCell()))));
+    update(platform::paintedArea(*this, cursorRing(cellArea(shownBoard, cursorCell()))));
 }
 
 // Installed on the application while the cursor is shown.

@@ -45,7 +45,8 @@ void enqueue(SoundDevice device, std::span<const std::int16_t> samples) {
     sdl()->QueueAudio(device, samples.data(), static_cast<Uint32>(samples.size_bytes()));
 }
 
-// SDL 2 reports a lost device by its status, the compatibility layer over SDL 3 only by an event.
+// SDL 2 reports a lost device by the device's status. sdl2-compat, the SDL 2 API on top of SDL 3, reports the loss only
+// by an event.
 bool isLost(SoundDevice device) {
     sdl()->PumpEvents();
     const bool removed = sdl()->HasEvent(SDL_AUDIODEVICEREMOVED) == SDL_TRUE;
@@ -64,7 +65,8 @@ SoundDevice openSoundDevice(SoundDevice device) {
 }
 
 void playThrough(SoundDevice device, const Samples& samples) {
-    // The queue is empty two buffers before the last sample is heard.
+    // SDL's queue becomes empty two buffers before the last sample is heard. So two buffers of silence follow the
+    // sound: the queue is then empty only when the sound is over.
     static constexpr std::array<std::int16_t, 2 * bufferFrames * samplesChannels> silence{};
     enqueue(device, samples);
     enqueue(device, silence);

@@ -10,7 +10,7 @@ namespace {
 
 void ignoreAlsaError(const char*, int, const char*, int, const char*, ...) {}
 
-// At every attempt without a sound card, ALSA would write so to standard error.
+// Without a sound card, ALSA would write a message to standard error at each attempt to open a device.
 void silenceAlsa() {
     void* library = loadLibrary("libasound.so.2");
     int (*setErrorHandler)(decltype(&ignoreAlsaError)) = nullptr;
@@ -21,7 +21,7 @@ void silenceAlsa() {
 
 bool load(Sdl& sdl) {
     silenceAlsa();
-    // Never unloaded, because threads that SDL leaves behind may still run its code.
+    // The library is never unloaded: threads that SDL leaves behind may still run its code.
     void* library = loadLibrary("libSDL2-2.0.so.0");
     return library != nullptr && resolve(library, "SDL_InitSubSystem", sdl.InitSubSystem) &&
            resolve(library, "SDL_QuitSubSystem", sdl.QuitSubSystem) &&

@@ -9,8 +9,8 @@
 
 namespace platform {
 
-/// The functions of SDL that the program uses, without their prefix. Loaded on first use: with its dependencies SDL
-/// would take a fifth of the time until the window shows.
+/// The functions of SDL that the program uses, without the prefix SDL_. They are loaded on first use. If they
+/// were loaded at the start, loading SDL and its dependencies would take a fifth of the launch time.
 struct Sdl {
     decltype(&SDL_InitSubSystem) InitSubSystem;
     decltype(&SDL_QuitSubSystem) QuitSubSystem;
@@ -33,7 +33,7 @@ struct Sdl {
     decltype(&SDL_ConvertAudio) ConvertAudio;
 };
 
-/// The loaded library, or null if it is not installed. Safe to call from any thread.
+/// Returns the functions, or null if SDL is not installed. The first call loads SDL. Safe to call from any thread.
 const Sdl* sdl();
 
 }  // namespace platform

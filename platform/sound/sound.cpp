@@ -18,17 +18,18 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): the handler at exit takes no data
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): the exit handler reads the number
 std::atomic<int> workersInUse = 0;
 
-/// A worker that hangs in its device holds locks. exit() waits for them, with glibc 2.41 for ever.
+/// A worker that hangs in the sound device never releases its locks. With glibc 2.41, exit() waits for these locks, so
+/// the program would never end. _exit() does not wait.
 void leaveWithoutWorkers(int exitStatus, void*) {
     if (workersInUse > 0) {
         _exit(exitStatus);
     }
 }
 
-/// Passes the names to a worker thread and waits for it, at most as long as `Sound::play` promises.
+/// Passes the name of each sound to a worker thread. Waits for the worker at most as long as `Sound::play` allows.
 class WorkerSound final : public Sound {
   public:
     WorkerSound(std::vector<std::filesystem::path> soundFolders, SoundTiming soundTiming)
@@ -85,12 +86,12 @@ void WorkerSound::play(const std::string& name) {
         std::unique_lock lock(mailbox->mutex);
         auto& request = mailbox->request;
         if (request) {
-            return;  // An earlier sound hangs.
+            return;  // The worker is still busy with an earlier sound.
         }
         request = SoundRequest{name, Clock::now() + timing.grace};
         mailbox->changed.notify_all();
         while (request && Clock::now() < request->deadline) {
-            const auto deadline = request->deadline;  // a copy, because the worker changes it
+            const auto deadline = request->deadline;  // a copy: the worker may change the original
             mailbox->changed.wait_until(lock, deadline);
         }
     } catch (const std::exception&) {

@@ -46,8 +46,9 @@ std::uint32_t littleEndian(std::string_view bytes) {
     });
 }
 
-/// SDL allocates the length that the data chunk claims, up to 4 GiB, and accepts a file that is cut short. The layer
-/// over SDL 3 also keeps only the low byte of the number of channels.
+/// Whether the file is complete and has at most two channels. SDL does not check this: it allocates the length that the
+/// data chunk claims, up to 4 GiB, and accepts a file that is cut short. sdl2-compat, the SDL 2 API on top of SDL 3,
+/// reads only the low byte of the number of channels.
 bool isSafeForSdl(std::string_view file) {
     constexpr std::size_t riffHeader = 12;
     constexpr std::size_t chunkHeader = 8;
@@ -81,9 +82,10 @@ bool isPlayable(const SDL_AudioSpec& audio, Uint32 bytes) {
     return bytes / frameSize(audio) <= static_cast<Uint32>(audio.freq) * longestSeconds;
 }
 
-/// Without SDL_AudioStream: when it resamples, SDL 2.26 loses up to 512 frames at the end.
+/// Does not use SDL_AudioStream: in SDL 2.26 it loses up to 512 frames at the end of a sound that it resamples.
 Samples convert(const SDL_AudioSpec& audio, std::span<const Uint8> bytes) {
-    // SDL trusts the frame size that the file claims, which may be half the real one.
+    // SDL cuts the data to whole frames of the size in the header. If that size is wrong, the data may end in the
+    // middle of a real frame.
     bytes = bytes.first(bytes.size() - bytes.size() % frameSize(audio));
     SDL_AudioCVT conversion{};
     if (sdl()->BuildAudioCVT(&conversion, audio.format, audio.channels, audio.freq, AUDIO_S16SYS, samplesChannels,

@@ -21,7 +21,7 @@ void blockSignals() {
     pthread_sigmask(SIG_SETMASK, &all, nullptr);
 }
 
-/// Waits for an order; while a device is open, at most for `closeAfter`.
+/// Waits for the next order. If a device is open and no order comes within `closeAfter`, returns Order::close.
 Order nextOrder(SoundMailbox& mailbox, bool deviceIsOpen, std::chrono::milliseconds closeAfter) {
     std::unique_lock lock(mailbox.mutex);
     const auto isOrdered = [&] { return mailbox.stop || mailbox.request || mailbox.warmUp; };
@@ -48,7 +48,7 @@ bool isGivenUp(const SoundRequest& request) {
     return request.deadline <= std::chrono::steady_clock::now();
 }
 
-/// Makes the caller wait for the length of the sound as well. False if the caller has given up.
+/// Adds the length of the sound to the caller's deadline. Returns false if the caller has already given up.
 bool extendDeadline(SoundMailbox& mailbox, std::chrono::milliseconds length) {
     const std::lock_guard lock(mailbox.mutex);
     if (isGivenUp(*mailbox.request)) {
@@ -64,7 +64,7 @@ bool isStillWanted(SoundMailbox& mailbox) {
     return !isGivenUp(*mailbox.request);
 }
 
-/// Returns the device, which may be a new one.
+/// Plays the samples if the caller still waits. Returns the device that is open afterwards, or 0 if none is.
 SoundDevice play(SoundMailbox& mailbox, const Samples& samples, SoundDevice device) {
     if (samples.empty() || !extendDeadline(mailbox, playingTime(samples.size()))) {
         return device;
@@ -92,7 +92,7 @@ void announceStop(SoundMailbox& mailbox) {
 
 void serveSounds(const std::shared_ptr<SoundMailbox>& mailbox, const std::vector<std::filesystem::path>& folders,
                  std::chrono::milliseconds closeAfter) noexcept {
-    // SDL has only one audio subsystem: the next worker waits until one that was left behind has finished with it.
+    // SDL has only one audio subsystem. A new worker waits here until the previous worker has ended.
     static std::mutex onlyOne;
     const std::lock_guard lock(onlyOne);
     blockSignals();
@@ -100,7 +100,8 @@ void serveSounds(const std::shared_ptr<SoundMailbox>& mailbox, const std::vector
     while (true) {
         switch (nextOrder(*mailbox, device != 0, closeAfter)) {
             case Order::play:
-                // Read without the lock: the caller does not touch the name until the request is cleared.
+                // The name is read without the lock. The caller does not change the name until the worker has cleared
+                // the request.
                 device = play(*mailbox, load(folders, mailbox->request->name), device);
                 finishRequest(*mailbox);
                 break;

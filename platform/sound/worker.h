@@ -17,23 +17,23 @@ namespace platform {
 /// A sound that the caller waits for.
 struct SoundRequest {
     std::string name;
-    /// When the caller gives up. The worker adds the length of the sound once it knows it.
+    /// The time at which the caller gives up. The worker adds the length of the sound when it has read the file.
     std::chrono::steady_clock::time_point deadline;
 };
 
-/// The shared state of caller and worker. Both own it, because a worker that hangs outlives the caller.
+/// The state that the caller and the worker share. Both own the mailbox: a worker that hangs outlives the caller.
 struct SoundMailbox {
     std::mutex mutex;                     ///< guards the other members
-    std::condition_variable changed;      ///< notified after each change that the other side may wait for
-    std::optional<SoundRequest> request;  ///< set by the caller, cleared by the worker when done
+    std::condition_variable changed;      ///< notified after each change that the other thread may wait for
+    std::optional<SoundRequest> request;  ///< set by the caller, cleared by the worker after the sound
     bool warmUp = false;                  ///< set by the caller, cleared by the worker
     bool stop = false;                    ///< set by the caller
-    bool stopped = false;                 ///< set by the worker once the device is closed
+    bool stopped = false;                 ///< set by the worker after it has closed the device
 };
 
-/// The function of the worker thread. Carries out the orders in the mailbox until `stop`, with sounds from `folders`,
-/// and closes the device after `closeAfter` without an order. Nothing else uses the sound device. Blocks all signals on
-/// its thread, so that other threads handle them.
+/// The function of the worker thread. Carries out the orders in the mailbox until `stop`. Reads the sounds from
+/// `folders`. Closes the device after `closeAfter` without an order. Nothing else uses the sound device. Blocks all
+/// signals in the worker thread, so that other threads handle them.
 void serveSounds(const std::shared_ptr<SoundMailbox>& mailbox, const std::vector<std::filesystem::path>& folders,
                  std::chrono::milliseconds closeAfter) noexcept;
 

@@ -67,8 +67,23 @@ QString AccessibleCell::text(QAccessible::Text kind) const {
     if (kind != QAccessible::Name) {
         return {};
     }
-    lastRead = isValid() ? name(rules::groupSize(widget.board(), index)) : QString();
+    if (!reported.isEmpty()) {
+        lastRead = reported;
+    } else {
+        lastRead = isValid() ? name(rules::groupSize(widget.board(), index)) : QString();
+    }
     return lastRead;
+}
+
+void AccessibleCell::reportName(int group) {
+    // Newer versions of Qt ask for the name within this event. They then get the known name: counting the group again
+    // for each cell takes seconds on the largest board.
+    reported = name(group);
+    if (reported != lastRead) {
+        QAccessibleEvent event(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+    reported.clear();
 }
 
 QString AccessibleCell::name(int group) const {
@@ -102,7 +117,7 @@ QStringList AccessibleCell::actionNames() const {
 }
 
 void AccessibleCell::doAction(const QString& action) {
-    // A move takes time, and the screen reader waits for the answer to this call.
+    // The screen reader waits until doAction() returns. A move takes time, so it starts after the return.
     QTimer::singleShot(0, &widget, [&board = widget, i = index, press = action == pressAction()] {
         if (!board.isVisible() || !board.board().contains(i)) {
             return;

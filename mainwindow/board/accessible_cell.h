@@ -11,18 +11,18 @@ namespace mainwindow {
 
 class BoardWidget;
 
-/// A cell of the board for screen readers. Its name says its content, its position and the size of its group; its press
-/// action plays the cell as a key does.
+/// A cell of the board for screen readers. The name tells the content of the cell, its position and the size of its
+/// group. The press action plays the cell, as Space or Enter does.
 class AccessibleCell : public QAccessibleInterface,
                        public QAccessibleTableCellInterface,
                        public QAccessibleActionInterface {
   public:
-    /// i is a cell of the board. The interface becomes invalid if the board gets smaller than that.
+    /// Cell i must be on the board. The interface becomes invalid if the board shrinks and loses cell i.
     AccessibleCell(BoardWidget& boardWidget, rules::CellIndex i) : widget(boardWidget), index(i) {}
 
-    /// Whether the name has changed since a screen reader last read it. `group` is the size of the cell's group now, 0
-    /// for an empty cell.
-    bool hasNewName(int group) const { return name(group) != lastRead; }
+    /// Tells screen readers that the name has changed, if it differs from the name that they last read. `group` is the
+    /// current size of the cell's group, or 0 if the cell is empty.
+    void reportName(int group);
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }
@@ -57,6 +57,7 @@ class AccessibleCell : public QAccessibleInterface,
 
     BoardWidget& widget;
     rules::CellIndex index;
+    QString reported;  // the new name, while it is being reported
     mutable QString lastRead;
 };
 

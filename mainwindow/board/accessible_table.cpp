@@ -20,7 +20,8 @@ using namespace Qt::StringLiterals;
 namespace mainwindow {
 namespace {
 
-// Children are numbered row by row, as screen readers expect of a table. Each is created at its first use.
+// The children are the cells. A child index counts row by row, as screen readers expect; a CellIndex counts column by
+// column. The interface of a cell is created at its first use.
 class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterface {
   public:
     explicit AccessibleTable(BoardWidget& board) : QAccessibleWidget(&board, QAccessible::Table), boardWidget(board) {}
@@ -43,13 +44,9 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
             columnsBefore = board.NbCol;
             rowsBefore = board.NbLig;
         }
-        // groupSize() for each cell would visit a large group once for each of its balls.
         const std::vector<int> groups = rules::groupSizes(board);
         for (const auto& [i, cell] : cells) {
-            if (cell->hasNewName(groups[i])) {
-                QAccessibleEvent event(cell, QAccessible::NameChanged);
-                QAccessible::updateAccessibility(&event);
-            }
+            cell->reportName(groups[i]);
         }
     }
 
@@ -77,7 +74,7 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
         return boardWidget.hasFocus() ? cell(boardWidget.cursorCell()) : nullptr;
     }
 
-    // Qt crashes if the answer is no cell.
+    // Qt crashes if this function returns null, so the position is clamped to the board.
     QAccessibleInterface* cellAt(int row, int column) const override {
         const rules::Board& board = boardWidget.board();
         return cell(board.indexOf({std::clamp(column, 0, board.NbCol - 1), std::clamp(row, 0, board.NbLig - 1)}));
@@ -144,7 +141,8 @@ void reportChanges(BoardWidget& board) {
 
 void makeAccessible(BoardWidget& board) {
     QAccessible::installFactory(create);
-    // Queued, to follow Qt's own focus event for the table as a whole.
+    // The connection is queued, so that the focus event of the cell comes after the focus event that Qt sends for the
+    // whole table.
     QObject::connect(
         &board, &BoardWidget::cursorMoved, &board, [&board] { reportFocus(board); }, Qt::QueuedConnection);
     QObject::connect(&board, &BoardWidget::boardShown, &board, [&board] { reportChanges(board); });

@@ -7,8 +7,9 @@ namespace mainwindow {
 
 class BoardWidget;
 
-/// Presents the board to screen readers as a table whose cells can be read and pressed, and reports to them where the
-/// cursor is and which of the cells they know have changed. Call it once for a board.
+/// Presents the board to screen readers as a table. They can read and press each cell. They are told when the cursor
+/// moves, and when a cell that they have read changes its name. Call it once for a board, before
+/// anything else asks for the board's accessible interface.
 void makeAccessible(BoardWidget& board);
 
 }  // namespace mainwindow

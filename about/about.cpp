@@ -27,9 +27,9 @@ namespace {
 
 enum Link { back = 0, site = 1, mail = 2 };
 
-constexpr int none = 10;  // an index of no label
+constexpr int noLabel = 10;  // No label has this index.
 
-// Sets the label with this index bold and the others regular.
+// Makes label `Index` of the group bold and all other labels regular.
 template <typename Group>
 void embolden(const Group& group, int Index, platform::FontSize size) {
     for (int k = 0; platform::Label * label : group) {
@@ -72,7 +72,8 @@ About::About(const platform::Box& screen, const animation::RandomSource& random,
     AnimateAbout(random);
 }
 
-// Screen readers read name and description of the window when it opens: its title and the rules of the game.
+// When the window opens, screen readers read its accessible name and its accessible description aloud. The description
+// is the text of all paragraphs.
 void About::describe() {
     QStringList paragraphs;
     for (const platform::Label* label : Label2) {
@@ -109,11 +110,11 @@ void About::Label1_MouseMove(int Index) {
 
 void About::Label2_MouseMove(int Index) {
     embolden(Label2, Index, platform::FontSize::small);
-    Label1_MouseMove(none);
+    Label1_MouseMove(noLabel);
 }
 
 void About::Form_MouseMove() {
-    Label2_MouseMove(none);
+    Label2_MouseMove(noLabel);
 }
 
 void About::closeEvent(QCloseEvent* event) {
@@ -134,7 +135,7 @@ void About::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// The link with the keyboard's focus is bold, like the link under the mouse.
+// When Tab moves the focus to a link, the link becomes bold, like a link under the mouse.
 bool About::focusNextPrevChild(bool next) {
     const bool moved = QWidget::focusNextPrevChild(next);
     Label1_MouseMove(linkWithFocus());
@@ -143,7 +144,7 @@ bool About::focusNextPrevChild(bool next) {
 
 int About::linkWithFocus() const {
     const auto* const found = std::ranges::find_if(Label1, &QWidget::hasFocus);
-    return found == Label1.end() ? none : static_cast<int>(found - Label1.begin());
+    return found == Label1.end() ? noLabel : static_cast<int>(found - Label1.begin());
 }
 
 void About::mouseMoveEvent(QMouseEvent*) {

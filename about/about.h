@@ -18,16 +18,17 @@ class Label;
 
 namespace about {
 
-/// The window that explains the game, with two links and bouncing balls behind the text.
+/// The window that explains the game. It has paragraphs of text, three links, and balls that bounce behind the text.
 class About : public QWidget {
     Q_OBJECT
 
   public:
-    /// Creates the window in the middle of a screen, given in twips, with its balls moving; the window is then ready to
-    /// be shown. Whatever closes it, the window hides and then calls `whenClosed`.
+    /// Creates the window, still hidden, in the middle of `screen` (in twips). `random` scatters the balls, which
+    /// bounce while the window is shown. When the window closes, it hides itself and then calls `whenClosed`.
     About(const platform::Box& screen, const animation::RandomSource& random, std::function<void()> whenClosed);
 
-    /// A click on a link: 2 writes a mail to the author, 1 opens the author's web site, 0 goes back to the game.
+    /// Handles a click on the link number `Index`: 0 closes the window, 1 opens the author's web site, 2 opens a new
+    /// mail to the author. Any other index does nothing.
     void Label1_Click(int Index);
 
   protected:

@@ -9,7 +9,7 @@
 
 namespace about {
 
-/// The controls of the About window, front to back.
+/// The controls of the About window, ordered from front to back.
 std::span<const platform::ControlRow> controls();
 
 }  // namespace about

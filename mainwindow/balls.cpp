@@ -13,6 +13,7 @@
 #include "about/about.h"
 #include "assets/pictures.h"
 #include "mainwindow/balls_controls.h"
+#include "mainwindow/board/accessible_table.h"
 #include "mainwindow/board/board_widget.h"
 #include "platform/controls.h"
 #include "platform/label.h"
@@ -26,11 +27,12 @@ using namespace Qt::StringLiterals;
 
 namespace mainwindow {
 
-balls::balls(Surroundings world)
+balls::balls(Surroundings given)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
-      surroundings(std::move(world)),
+      surroundings(std::move(given)),
       bestScores(surroundings.store, rules::levels),
       c(new BoardWidget(*this, game.board)) {
+    makeAccessible(*c);
     setWindowTitle(u"Zampotine"_s);
     platform::keepSizeOnEveryScreen(*this);
     createControls();
@@ -42,7 +44,8 @@ balls::balls(Surroundings world)
     Form_Load();
 }
 
-// The board reads the game when it loses the focus, and that may happen while its window is destroyed.
+// Delete the board before `game`. When Qt destroys the window, it takes the focus from the board, and the board then
+// reads `game`.
 balls::~balls() {
     delete c;
 }
@@ -91,20 +94,10 @@ void balls::connectControls() {
         platform::onClick(*ImBTN[i], [this, i] { ImBTN_Click(i); });
         platform::onClick(*LabBtn[i], [this, i] { LabBtn_Click(i); });
     }
-    for (int k = 0; QRadioButton * option : Option1) {
-        // The options are one tab stop: Tab goes to the selected option.
-        option->setFocusPolicy(Qt::ClickFocus);
-        connect(option, &QRadioButton::toggled, this, [this, option, k](bool selected) {
-            option->setFocusPolicy(selected ? Qt::StrongFocus : Qt::ClickFocus);
-            if (selected) {
-                Option1_Click(k);
-            }
-        });
-        ++k;
-    }
+    connectLevels();
     platform::onPress(*Image1, [this](const QMouseEvent&) { Image1_MouseDown(); });
     platform::onClick(*Frame1, [this] { Frame1_Click(); });
-    // The session may end without closing the window first.
+    // At the end of a session, the desktop may kill the program without closing the window. Save the settings first.
     connect(qApp, &QGuiApplication::commitDataRequest, this, &balls::Form_Unload);
 }
 

@@ -35,28 +35,28 @@ namespace mainwindow {
 class BoardWidget;
 
 /// The main window. It connects the controls with the rules, the best scores and the sound. Above each group of
-/// functions is the name of the file that defines it.
+/// functions, a comment names the file that defines the group.
 class balls : public QWidget, private rules::Host {
     Q_OBJECT
 
   public:
-    /// Creates the window, loads the settings and deals the first game. The window is then ready to be shown.
-    explicit balls(Surroundings world);
+    /// Creates the window, still hidden, loads the settings and deals the first game.
+    explicit balls(Surroundings given);
     ~balls() override;
     Q_DISABLE_COPY_MOVE(balls)
 
-    /// Stores the texts of the size boxes and the sound switch.
+    /// Saves the texts of the size boxes and the state of the sound switch.
     void Form_Unload();
 
-    /// A click on a command button: 0 new game, 1 quit, 2 reset of the best score. Another index does nothing. During a
-    /// move or a new game, the command is kept for its end.
+    /// Handles a click on the command button number `Index`: 0 starts a new game, 1 quits, 2 resets the best score. Any
+    /// other index does nothing. The command waits while a move is played or a new game starts.
     void ImBTN_Click(int Index);
 
     /// The current game.
     const rules::Game& currentGame() const { return game; }
 
   private:
-    static constexpr int noButton = 5;  ///< an index of no button: all three show their normal face
+    static constexpr int noButton = 5;  ///< No button has this index. highlight(noButton) highlights none.
     static constexpr std::array<QKeyCombination, 3> commandKeys{Qt::Key_F2, Qt::CTRL | Qt::Key_Q, Qt::CTRL | Qt::Key_R};
     static constexpr QKeyCombination helpKey = Qt::Key_F1;
 
@@ -66,7 +66,6 @@ class balls : public QWidget, private rules::Host {
     void paintEvent(QPaintEvent* event) override;
     // start_and_close.cpp
     void Form_Load();
-    void Option1_Click(int Index);
     void closeEvent(QCloseEvent* event) override;
     // commands.cpp
     void LabBtn_Click(int Index);
@@ -77,6 +76,9 @@ class balls : public QWidget, private rules::Host {
     void ClearBoard();
     void NewGame();
     void LayoutBoard();
+    // level_options.cpp
+    void connectLevels();
+    void Option1_Click(int Index);
     int selectedLevel() const;
     // press.cpp
     void c_MouseDown(rules::CellIndex i, const QMouseEvent& press);
@@ -127,9 +129,9 @@ class balls : public QWidget, private rules::Host {
     Turns turns{[this](Command command) { run(command); }};
     RemovalPace pace;
     PictureFrame frame;
-    std::unique_ptr<about::About> About;  ///< while it is open
+    std::unique_ptr<about::About> About;  ///< null while the About window is closed
 
-    // The controls; CONTRIBUTING.md explains their names.
+    // The controls. CONTRIBUTING.md explains their names.
     BoardWidget* c;
     QWidget *Frame1 = nullptr, *Frame2 = nullptr;
     QCheckBox* Check1 = nullptr;
@@ -142,7 +144,7 @@ class balls : public QWidget, private rules::Host {
     std::array<platform::TextBox*, 2> Text1{};
     std::array<QRadioButton*, rules::levels> Option1{};
     std::array<platform::Label*, rules::levels> hsc{};
-    std::array<platform::Label*, 4> l1{};  ///< only elements 0 and 3 exist
+    std::array<platform::Label*, 4> l1{};  ///< elements 1 and 2 stay null
     animation::BouncingPictures* endBalls = nullptr;
 };
 

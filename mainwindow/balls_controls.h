@@ -9,7 +9,8 @@
 
 namespace mainwindow {
 
-/// The controls of the window, of the end-of-game panel `Frame1` and of the side panel `Frame2`, each front to back.
+/// The controls directly in the main window, in the end-of-game panel `Frame1`, and in the side panel `Frame2`. Each
+/// table is ordered from front to back.
 std::span<const platform::ControlRow> controlsInWindow();
 std::span<const platform::ControlRow> controlsInFrame1();
 std::span<const platform::ControlRow> controlsInFrame2();

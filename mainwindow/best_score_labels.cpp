@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The labels of the best scores follow the score and the reset.
+// Updates the best scores and their labels when the score changes or the player resets a best score.
 
 #include "mainwindow/balls.h"
 #include "platform/label.h"

@@ -11,7 +11,7 @@
 namespace mainwindow {
 namespace {
 
-constexpr int margin = 600;  // twips that stay free beside the cells
+constexpr int margin = 600;  // The cells leave this many twips of the screen free.
 
 int cellsWithin(int length) {
     return std::max((length - margin) / Pas, 1);
@@ -37,11 +37,12 @@ int leadingNumber(std::u16string_view text) {
     return negative ? -number : number;
 }
 
-BoardSize fitBoard(BoardSize request, const Space& space) {
+BoardSize fittingSize(BoardSize request, const Space& space) {
     int NbCol = std::min(std::clamp(request.NbCol, 8, 1000), cellsWithin(space.screenWidth - space.panelWidth));
     int NbLig = std::min(std::clamp(request.NbLig, 14, 1000), cellsWithin(space.screenHeight));
     while (NbCol * NbLig > rules::maxCells) {
-        --(NbCol >= NbLig ? NbCol : NbLig);
+        int& larger = NbCol >= NbLig ? NbCol : NbLig;
+        --larger;
     }
     return {NbCol, NbLig};
 }

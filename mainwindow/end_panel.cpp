@@ -24,10 +24,10 @@ void balls::ShowEndPanel() {
     Frame1->setGeometry(platform::toPixels({250, 250, toTwips(Frame2->x()) - 300, toTwips(height()) - 500}));
     Label1->setFixedWidth(Frame1->width());
     Label7->setFixedWidth(Frame1->width());
-    // Not the text of Label4, which may preview another level's best score.
+    // Label4 may preview the best score of another level, so its text is not used here.
     const double best = settings::numberIn(bestScores.hsc(game.Diff)).value_or(0);
     Label7->setVisible(best <= static_cast<double>(game.score));
-    // Screen readers read the panel's own name, not its labels.
+    // Screen readers read the accessible name of the panel, but not its labels.
     Frame1->setAccessibleName(Label1->text() + (Label7->isVisible() ? u", "_s + Label7->text() : QString()));
     endBalls->start(rules::Random(surroundings.animationSeed()));
 }

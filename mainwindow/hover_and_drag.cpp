@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The mouse outside of the board: it drags the window, lights the buttons up, and previews the best score of a level.
+// The mouse outside the board drags the window, highlights a button, or previews the best score of a level.
 
 #include <QMouseEvent>
 #include <QRadioButton>
@@ -25,7 +25,7 @@ void balls::connectMouse() {
         platform::onMove(*option, [this, i] { Option1_MouseMove(i); });
         ++i;
     }
-    // The same handlers serve as l1_MouseDown and l1_MouseMove, and as those of Label2, Label3, Label4 and sc.
+    // These labels all do the same, so none has handlers of its own, such as l1_MouseDown.
     for (platform::Label* label : {l1[0], l1[3], Label2, Label3, Label4, sc}) {
         platform::onPress(*label, [label](const QMouseEvent& press) { platform::dragWindow(*label, press); });
         platform::onMove(*label, [this] { highlight(noButton); });
@@ -60,8 +60,8 @@ void balls::LabBtn_MouseMove(int Index) {
 }
 
 void balls::highlight(int i) {
-    for (int k = 0; platform::PictureBox * button : ImBTN) {
-        button->setPicture(BTN[k++ == i ? 1 : 0]->picture());
+    for (int k = 0; k < static_cast<int>(ImBTN.size()); ++k) {
+        ImBTN[k]->setPicture(BTN[k == i ? 1 : 0]->picture());
     }
 }
 
@@ -72,7 +72,8 @@ void balls::mousePressEvent(QMouseEvent* event) {
 }
 
 void balls::mouseMoveEvent(QMouseEvent* event) {
-    // While a button is held, Qt sends all moves to the control on which it was pressed.
+    // While a mouse button is held, Qt sends every move to the control that was pressed, even if the pointer has left
+    // that control. Such moves are ignored here.
     if (event->buttons() == Qt::NoButton && !frame.contains(platform::pixelUnder(*event))) {
         Form_MouseMove();
     }

@@ -21,13 +21,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The folders in which a sound is looked for, in order.
+// The folders to search for a sound file, in this order.
 std::vector<std::filesystem::path> soundFolders() {
     const std::filesystem::path program = QCoreApplication::applicationDirPath().toStdString();
     return {".", program, program / ZAMPOTINE_DATA_FOLDER / "zampotine" / "sounds"};
 }
 
-// Drawn for the screen with the highest scale.
+// The icon has the resolution of the screen with the highest scale.
 QIcon windowIcon() {
     const platform::Picture picture = assets::picture(u"zampotine.ico"_s);
     return {picture.inPixels(picture.size() * qApp->devicePixelRatio())};
@@ -38,7 +38,8 @@ QIcon windowIcon() {
 int main(int, char* argv[]) {
     platform::prepareProcess();
     platform::hideFaultyServices();
-    // Without the arguments: Qt would read its own options from them, and the game has none.
+    // The game has no options, but Qt would read options of its own from the arguments. Qt therefore gets only the name
+    // of the program.
     int argc = 1;
     const QApplication application(argc, argv);
     QApplication::setApplicationName(u"zampotine"_s);

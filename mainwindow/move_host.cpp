@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// What the player sees and hears of a move.
+// Shows a move to the player and plays the sound of the move.
 
 #include <QCheckBox>
 
@@ -22,10 +22,7 @@ void showStatus(platform::Label& line, std::string_view utf8) {
 }  // namespace
 
 void balls::cellCleared(rules::CellIndex i) {
-    if (pace.isNew() && Check1->isChecked()) {
-        surroundings.sound.warmUp();  // the device opens while the balls vanish
-    }
-    c->noteChange(i);
+    c->markChanged(i);
 }
 
 void balls::yield() {
@@ -58,7 +55,7 @@ void balls::PlayWave(std::string_view file) {
     if (Check1->isChecked() && !turns.isClosing()) {
         surroundings.sound.play(std::string(file));
     }
-    // Input that arrived during the sound is handled before the end-of-game panel can open.
+    // Input may have arrived during the sound. Handle it now: later, it could close the end-of-game panel.
     platform::yield();
 }
 

@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The new-game sequence sizes, deals and lays out the board.
+// Starting a new game sizes the board, deals the balls, and lays out the window around the board.
 
 #include <algorithm>
-
-#include <QRadioButton>
 
 #include "mainwindow/balls.h"
 #include "mainwindow/board/board_widget.h"
@@ -38,8 +36,8 @@ void balls::startGame() {
 void balls::SizeBoard() {
     ClearBoard();
     const platform::Box screen = surroundings.screen(*this);
-    const BoardSize size = fitBoard({.NbCol = requested(*Text1[1]), .NbLig = requested(*Text1[0])},
-                                    {screen.Width, screen.Height, platform::toTwips(Frame2->width())});
+    const BoardSize size = fittingSize({.NbCol = requested(*Text1[1]), .NbLig = requested(*Text1[0])},
+                                       {screen.Width, screen.Height, platform::toTwips(Frame2->width())});
     Text1[1]->setText(QString::number(size.NbCol));
     Text1[0]->setText(QString::number(size.NbLig));
     rules::resizeBoard(game, size.NbCol, size.NbLig);
@@ -50,11 +48,6 @@ void balls::SizeBoard() {
 
 void balls::ClearBoard() {
     std::ranges::fill(game.board.cells, rules::Code::none);
-}
-
-int balls::selectedLevel() const {
-    const auto* const selected = std::ranges::find_if(Option1, &QRadioButton::isChecked);
-    return static_cast<int>(selected - Option1.begin());
 }
 
 void balls::NewGame() {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The About window replaces the main window on the screen while it is open.
+// While the About window is open, the main window is hidden.
 
 #include "about/about.h"
 #include "mainwindow/balls.h"
@@ -17,7 +17,7 @@ void balls::openAbout() {
     if (About != nullptr || turns.isClosing()) {
         return;
     }
-    // Taken before hiding, while this window is still on that screen.
+    // Ask for the screen before hide(), while the main window is still on it.
     const platform::Box screen = surroundings.screen(*this);
     hide();
     About =
@@ -30,7 +30,7 @@ void balls::closeAbout() {
     if (About == nullptr) {
         return;
     }
-    // Deleted later, because one of its handlers is running.
+    // A handler of the About window is running now, so the window must be deleted later.
     About.release()->deleteLater();
     show();
     raise();

@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// A press on a cell of the board starts a move.
+// A press on a ball starts a move. A press on an empty cell drags the window.
+
+#include <QCheckBox>
 
 #include "mainwindow/balls.h"
+#include "rules/group.h"
 #include "rules/move.h"
 
 namespace mainwindow {
@@ -26,6 +29,9 @@ void balls::play(rules::CellIndex i) {
     }
     turns.begin();
     pace = {};
+    if (Check1->isChecked() && rules::isGroup(game.board, i)) {
+        surroundings.sound.warmUp();  // The sound device opens while the balls vanish.
+    }
     rules::playMove(game, i, *this);
     turns.end();
 }

@@ -8,19 +8,17 @@
 
 namespace mainwindow {
 
-/// The pace at which the balls of a group vanish: each of the first ten takes a display refresh, each later one less
-/// than the one before. All balls together take less than 300 ms.
+/// The pace at which the balls of a group vanish. Each of the first ten balls earns a pause of one display refresh.
+/// Each later ball earns less than the ball before. Earned time is saved up until it reaches one refresh. All pauses of
+/// a group together take less than 300 ms.
 class RemovalPace {
   public:
     static constexpr std::chrono::microseconds refresh{16'000};
 
-    /// Whether no ball has been removed yet.
-    bool isNew() const { return balls == 0; }
-
-    /// Call it after each removed ball. Returns how long to pause: zero, or at least one refresh.
+    /// Call this function after each removed ball. Returns the pause to make now: zero, or at least `refresh`.
     std::chrono::microseconds nextBall() {
         constexpr int evenBalls = 10;
-        constexpr double shrink = 0.89;  // 16 ms × (10 + 0.89 / 0.11) stays below 300 ms
+        constexpr double shrink = 0.89;  // The pauses add up to at most 16 ms × (10 + 0.89 / 0.11) = 290 ms.
         if (++balls > evenBalls) {
             share *= shrink;
         }

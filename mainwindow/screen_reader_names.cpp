@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The roles and names of the controls for screen readers. The board has its own table for them.
+// The roles and names that screen readers get for the controls. The board has a table of its own in
+// board/accessible_table.cpp.
 
 #include "mainwindow/balls.h"
-#include "mainwindow/board/accessible_table.h"
 #include "platform/accessible_role.h"
 #include "platform/label.h"
 #include "platform/picture_box.h"
@@ -19,7 +19,6 @@ void balls::describeControls() {
         const QString keyName = QKeySequence(key).toString(QKeySequence::NativeText);
         platform::setAccessibleRole(control, {QAccessible::Button, press, keyName});
     };
-    makeAccessible(*c);
     platform::setAccessibleRole(*this, {.role = QAccessible::Window});
     for (int i = 0; i < static_cast<int>(ImBTN.size()); ++i) {
         describeButton(*ImBTN[i], commandKeys[i], [this, i] { ImBTN_Click(i); });
@@ -28,7 +27,7 @@ void balls::describeControls() {
     }
     describeButton(*Image1, helpKey, [this] { Image1_MouseDown(); });
     Image1->setAccessibleName(u"Aide"_s);
-    // Label5(0) is the caption of the columns, Label5(1) of the rows; the boxes have the opposite indices.
+    // The indices are crossed: Label5(0) is the caption of Text1(1), Label5(1) of Text1(0).
     Text1[1]->setAccessibleName(Label5[0]->text());
     Text1[0]->setAccessibleName(Label5[1]->text());
     for (platform::Label* status : {l1[0], l1[3]}) {

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The window's shortcuts and tab order. Qt handles the usual keys, the board its own.
+// The shortcuts and the tab order of the main window. The board handles its own keys. Qt handles the usual keys of
+// the other controls.
 
 #include <QCheckBox>
 #include <QRadioButton>
@@ -24,7 +25,7 @@ void balls::connectKeys() {
     on(this, Qt::CTRL | Qt::Key_N, [this] { turns.perform(Command::newGame); });
     on(this, helpKey, [this] { Image1_MouseDown(); });
     on(this, Qt::CTRL | Qt::Key_S, [this] { Check1->toggle(); });
-    // The shortcuts of a hidden panel are off.
+    // Qt ignores the shortcuts of Frame1 while Frame1 is hidden.
     for (const auto key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
         on(Frame1, key, [this] { Frame1_Click(); });
     }

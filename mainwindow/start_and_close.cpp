@@ -22,16 +22,12 @@ void balls::Form_Load() {
     const settings::Store& store = surroundings.store;
     const int level = stored::readWholeNumber(store, stored::level);
     Option1[level < 0 || level >= rules::levels ? 0 : level]->setChecked(true);
-    // Otherwise Qt gives the focus to the first option in the tab order, and a key would select that option.
+    // The board has the keyboard focus at the start, so that the player can use the board's keys at once.
     c->setFocus();
     Text1[1]->setText(stored::read(store, stored::columns));
     Text1[0]->setText(stored::read(store, stored::rows));
     Check1->setChecked(stored::readWholeNumber(store, stored::sound) != 0);
     startGame();
-}
-
-void balls::Option1_Click(int Index) {
-    stored::write(surroundings.store, stored::level, QString::number(Index));
 }
 
 void balls::Form_Unload() {
@@ -49,7 +45,7 @@ void balls::closeEvent(QCloseEvent* event) {
         return;
     }
     Form_Unload();
-    // Delete About now; otherwise Qt closes it as well, and its handler would show this window again.
+    // quit() closes all windows. If the About window still existed, its handler would show the main window again.
     About.reset();
     event->accept();
     QCoreApplication::quit();

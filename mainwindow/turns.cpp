@@ -9,7 +9,7 @@ namespace mainwindow {
 
 void Turns::end() {
     moving = false;
-    // A new game that was kept ends inside this loop, which then goes on with the commands after it.
+    // A kept command may start a new game, which calls end() again. Only the outer call runs the kept commands.
     if (std::exchange(isRunningKept, true)) {
         return;
     }

@@ -9,27 +9,27 @@
 
 namespace mainwindow {
 
-/// The commands of the player. The first three have the indices of their buttons.
+/// The commands of the player. The values of the first three are the indices of their buttons.
 enum class Command { newGame = 0, quit = 1, reset = 2, help };
 
-/// Makes moves, new games and commands take turns: during a move or a new game, commands are kept for its end.
+/// Makes commands wait until the current move has ended. In this class, starting a new game is a move as well.
 class Turns {
   public:
-    /// `run` carries a command out.
+    /// `run` carries out a command.
     explicit Turns(std::function<void(Command)> run) : carryOut(std::move(run)) {}
 
-    /// Whether a move or a new game is under way.
+    /// Whether a move is going on.
     bool isMoving() const { return moving; }
-    /// Whether the player asked to quit during the current move: it then skips its pace and its sound.
+    /// Whether the quit command was given during a move. The rest of the move then has no pauses and no sound.
     bool isClosing() const { return closing; }
 
-    /// Begins a move or a new game. Call it only if none is under way.
+    /// Begins a move. Call it only if isMoving() is false.
     void begin() { moving = true; }
-    /// Ends the move or new game and runs the kept commands, in order.
+    /// Ends the move and runs the commands that waited for its end, in the order in which they were given.
     void end();
 
-    /// Runs a command now, or keeps it for the end of the current move or new game. Quitting drops the commands after
-    /// it.
+    /// Runs a command at once, or at the end of the current move if there is one. When the quit command runs, it drops
+    /// all commands that still wait.
     void perform(Command command);
 
   private:

@@ -145,7 +145,7 @@ void makeAccessible(BoardWidget& board) {
     // whole table.
     QObject::connect(
         &board, &BoardWidget::cursorMoved, &board, [&board] { reportFocus(board); }, Qt::QueuedConnection);
-    QObject::connect(&board, &BoardWidget::boardShown, &board, [&board] { reportChanges(board); });
+    QObject::connect(&board, &BoardWidget::boardChanged, &board, [&board] { reportChanges(board); });
 }
 
 }  // namespace mainwindow

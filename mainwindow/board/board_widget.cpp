@@ -24,7 +24,7 @@ BoardWidget::BoardWidget(QWidget& window, const rules::Board& board) : QWidget(&
     setObjectName(u"c"_s);
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
-    std::ranges::transform(rules::codes, balls.begin(), [this](rules::Code code) {
+    std::ranges::transform(rules::codes, ballPictures.begin(), [this](rules::Code code) {
         const QString file = u"i%1.gif"_s.arg(QLatin1Char(static_cast<char>(code)));
         return assets::picture(file).onBackground(palette().color(QPalette::Window));
     });
@@ -35,8 +35,8 @@ void BoardWidget::fitToBoard() {
     setGeometry(boardArea(shownBoard));
 }
 
-void BoardWidget::noteChange(rules::CellIndex i) {
-    // Beyond this number of rectangles, painting their bounding rectangle is faster.
+void BoardWidget::markChanged(rules::CellIndex i) {
+    // If there are more rectangles than this, painting their bounding rectangle is faster.
     constexpr int manyRectangles = 100;
     changed += cellArea(shownBoard, i);
     if (changed.rectCount() > manyRectangles) {
@@ -50,7 +50,7 @@ void BoardWidget::paintChanges() {
 
 void BoardWidget::showBoard() {
     update();
-    emit boardShown();
+    emit boardChanged();
 }
 
 void BoardWidget::moveCursor(rules::CellIndex i) {
@@ -74,7 +74,7 @@ void BoardWidget::updateCursor() {
     update(platform::paintedArea(*this, cursorRing(cellArea(shownBoard, cursorCell()))));
 }
 
-// Installed on the application while the cursor is shown.
+// While the cursor is shown, this filter is installed on the application: using the mouse anywhere hides the cursor.
 bool BoardWidget::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress ||
         event->type() == QEvent::Wheel) {
@@ -132,13 +132,14 @@ void BoardWidget::paintCells(const QRegion& region) {
     platform::PixelPainter painter(*this);
     for (const QRect& area : region) {
         const QRect cells = cellsTouching(shownBoard, area);
-        // Row by row, as the pixels are in memory: three times as fast as column by column.
+        // The pixels of a row are next to each other in memory. Painting row by row is therefore three times as fast as
+        // painting column by column.
         for (int row = cells.top(); row <= cells.bottom(); ++row) {
             for (int col = cells.left(); col <= cells.right(); ++col) {
                 const rules::CellIndex i = shownBoard.indexOf({col, row});
                 const auto* const code = std::ranges::find(rules::codes, shownBoard[i]);
                 if (code != rules::codes.end()) {
-                    painter.draw(cellArea(shownBoard, i).topLeft(), balls[code - rules::codes.begin()]);
+                    painter.draw(cellArea(shownBoard, i).topLeft(), ballPictures[code - rules::codes.begin()]);
                 }
             }
         }

@@ -13,33 +13,36 @@
 
 namespace mainwindow {
 
-/// The board on the screen, the control `c`: it paints the cells, finds the cell under the pointer, and moves a cursor
-/// with the keys. Presses and moves of the mouse beside the cells go through to the window.
+/// The board on the screen, the control `c`. It paints the cells, finds the cell under the pointer, and moves a cursor
+/// with the keys. Mouse events in the margin around the cells go to the window.
 ///
-/// The keyboard treats the board as one tab stop. The cursor shows after the first key and hides at the next use of the
-/// mouse.
+/// The board is one tab stop. The cursor appears when the player enters the board with Tab or presses a key on the
+/// board. Any use of the mouse hides the cursor.
 class BoardWidget : public QWidget {
     Q_OBJECT
 
   public:
-    /// Shows this board, which must outlive the widget. Call fitToBoard() before the widget is shown.
+    /// The board must outlive the widget. Call fitToBoard() before the widget is shown.
     BoardWidget(QWidget& window, const rules::Board& board);
 
     const rules::Board& board() const { return shownBoard; }
 
-    /// Takes the size of the board and brings the cursor back onto it. Call it after every change of the board's size.
+    /// Resizes the widget to the board and brings the cursor back onto the board. Call it after each change of the
+    /// board's size.
     void fitToBoard();
 
-    /// Keeps in mind that cell i has changed, until paintChanges().
-    void noteChange(rules::CellIndex i);
-    /// Repaints the cells that have changed, from the event loop.
+    /// Records that cell i has changed. Call paintChanges() to repaint the recorded cells.
+    void markChanged(rules::CellIndex i);
+    /// Tells Qt to repaint the recorded cells. Qt paints them when the program next handles events.
     void paintChanges();
-    /// Repaints all cells, from the event loop. Call it after a deal and after a move.
+    /// Tells Qt to repaint all cells, and emits boardChanged(). Call it after each deal and when the balls have fallen
+    /// after a move.
     void showBoard();
 
     /// The cell with the cursor, even while the cursor is hidden.
     rules::CellIndex cursorCell() const { return shownBoard.indexOf(cursor); }
-    /// Moves the cursor to cell i, and shows it while the board has the keyboard's focus.
+    /// Moves the cursor to cell i and shows the cursor. The cursor is painted only while the board has the keyboard
+    /// focus.
     void moveCursor(rules::CellIndex i);
 
   signals:
@@ -47,10 +50,10 @@ class BoardWidget : public QWidget {
     void pressed(rules::CellIndex i, const QMouseEvent& press);
     /// The player pressed cell i with a key or a screen reader.
     void played(rules::CellIndex i);
-    /// The cursor has moved, or the board has received the keyboard's focus.
+    /// The cursor has moved, or the board has received the keyboard focus.
     void cursorMoved();
-    /// The board was dealt, or a move has ended.
-    void boardShown();
+    /// New balls were dealt, or the balls have fallen after a move.
+    void boardChanged();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -67,9 +70,9 @@ class BoardWidget : public QWidget {
     void updateCursor();
 
     const rules::Board& shownBoard;
-    std::array<platform::Picture, rules::codes.size()> balls;  ///< in the order of the codes
-    QRegion changed;                                           ///< in pixels
-    rules::Position cursor{0, INT16_MAX};  ///< fitToBoard() brings it to the lowest cell at the left
+    std::array<platform::Picture, rules::codes.size()> ballPictures;  ///< in the order of rules::codes
+    QRegion changed;                       ///< the area that paintChanges() repaints, in pixels
+    rules::Position cursor{0, INT16_MAX};  ///< fitToBoard() moves it to the bottom left cell
     bool isCursorShown = false;
 };
 

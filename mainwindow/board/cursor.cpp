@@ -46,7 +46,7 @@ void drawCursor(QPainter& painter, const QRect& cell) {
     constexpr double rounding = 4;
     const QRectF middle = QRectF(cursorRing(cell)).adjusted(inset, inset, -inset, -inset);
     painter.setRenderHint(QPainter::Antialiasing);
-    // White between black contrasts with every ball and with the background.
+    // A white line between two black lines contrasts with every ball and with the background.
     for (const auto& [colour, width] : {std::pair{Qt::black, thickness}, std::pair{Qt::white, thickness / 2}}) {
         painter.setPen(QPen(colour, width));
         painter.drawRoundedRect(middle, rounding, rounding);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int side = platform::toPixels(Pas);
 constexpr int origin = platform::toPixels(boardOrigin);
-// Otherwise rounding would leave gaps between cells.
+// If Pas were not a whole number of pixels, rounding would leave gaps between the cells.
 static_assert(side * platform::twipsPerPixel == Pas);
 
 }  // namespace

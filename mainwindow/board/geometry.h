@@ -15,23 +15,23 @@ namespace mainwindow {
 /// The side of a cell, in twips.
 inline constexpr int Pas = 300;
 
-/// Left and top of cell 0 inside the window, in twips.
+/// The distance of cell 0 from the left edge and from the top edge of the window, in twips.
 inline constexpr int boardOrigin = 500;
 
-/// The width of the margin around the cells, in pixels: the cursor's ring extends into it.
+/// The width of the margin around the cells, in pixels. The ring of the cursor extends into the margin.
 inline constexpr int boardMargin = 3;
 
-/// The area of the board's widget inside the window, in pixels: all cells and the margin around them.
+/// The area of the board's widget inside the window, in pixels. It contains all cells and the margin.
 QRect boardArea(const rules::Board& board);
 
 /// The area of cell i inside the board's widget, in pixels.
 QRect cellArea(const rules::Board& board, rules::CellIndex i);
 
-/// The cell at a point of the board's widget, in pixels; nothing for a point beside the cells.
+/// The cell at a point of the board's widget, in pixels. Returns nothing if the point is in no cell.
 std::optional<rules::CellIndex> cellAt(const rules::Board& board, QPoint point);
 
-/// The cells that an area of the board's widget touches, in pixels: x and width count columns, y and height rows.
-/// Empty if the area touches no cell.
+/// The cells that overlap an area of the board's widget. The area is in pixels. The result is in cells: its left and
+/// right are columns, its top and bottom are rows. The result is empty if the area overlaps no cell.
 QRect cellsTouching(const rules::Board& board, const QRect& area);
 
 }  // namespace mainwindow

@@ -34,7 +34,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         return plainNumber(text);
     };
     const mainwindow::Space space{number(2), number(3), 2670};
-    const BoardSize board = mainwindow::fitBoard({number(0), number(1)}, space);
+    const BoardSize board = mainwindow::fittingSize({number(0), number(1)}, space);
 
     const auto fit = [](int count, int least, int length) {
         for (count = std::clamp(count, least, 1000); count > 1 && count * 300 + 600 > length;) {

@@ -72,6 +72,8 @@ void balls::LayoutBoard() {
     move(toPixels(screen.Left + (screen.Width - W) / 2), toPixels(screen.Top + (screen.Height - Ht) / 2 - 1000));
     platform::yield();
     frame.rebuild(toTwips(width()), toTwips(height()));
+    // The border stays in front of the board, even if the window manager has made the window too small.
+    c->setGeometry(c->geometry() & frame.inside());
     update();
 }
 

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace mainwindow {
 namespace {
 
-constexpr int side = 240;  // of a piece, in twips
+constexpr int side = 240;  // the side of a piece, in twips
 
 QPoint at(int Left, int Top) {
     return {platform::toPixels(Left), platform::toPixels(Top)};
@@ -59,6 +59,10 @@ void PictureFrame::rebuild(int W, int Ht) {
         G[i].place = at(0, Top);
         D[i].place = at(W - side, Top);
     }
+}
+
+QRect PictureFrame::inside() const {
+    return {at(side, side), BD.place - QPoint(1, 1)};
 }
 
 template <typename Visit>

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <QPoint>
+#include <QRect>
 
 #include "platform/picture.h"
 
@@ -15,16 +16,19 @@ class PixelPainter;
 
 namespace mainwindow {
 
-/// The border of small pictures along the four edges of the main window, with a picture at each corner.
+/// The border of the main window: a row of small pictures along each edge, and one picture at each corner.
 class PictureFrame {
   public:
     PictureFrame();
 
-    /// Removes all pieces except the first of each edge.
+    /// Removes all pieces except the corners and the first piece of each edge.
     void clear();
 
-    /// Rebuilds the border for a window of this size, in twips.
+    /// Rebuilds the border for a window of W by Ht twips.
     void rebuild(int W, int Ht);
+
+    /// The area of the window that the border surrounds, in pixels.
+    QRect inside() const;
 
     /// Draws the border. The corners are in front of the edges.
     void draw(platform::PixelPainter& painter) const;
@@ -35,13 +39,13 @@ class PictureFrame {
   private:
     struct Piece {
         platform::Picture picture;
-        QPoint place;  ///< in the window, in pixels
+        QPoint place;  ///< top left corner in the window, in pixels
     };
 
     template <typename Visit>
     void forEachPiece(Visit visit) const;
 
-    std::vector<Piece> H, B, G, D;  // top, bottom, left and right edge pieces
+    std::vector<Piece> H, B, G, D;  // pieces of the top, bottom, left and right edge
     Piece HG, HD, BG, BD;           // top left, top right, bottom left and bottom right corners
 };
 

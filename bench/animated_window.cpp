@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// Shows one animation, or a window that repaints an area of the same size, to compare their processor time.
+// Shows one animation, or a window that only repaints itself. bench/run.py compares their processor times.
 //
-// Usage: animated_window panel|about|repainting WIDTH HEIGHT [hidden]
+// Usage: animated_window panel|about [hidden]
+//        animated_window repainting WIDTH HEIGHT [hidden]
+//
+// With "hidden", the window is hidden after a second.
 
 #include <cstdlib>
 #include <cstring>
@@ -23,7 +26,8 @@
 
 namespace {
 
-// A deal of two colours and the presses that end it: the first colour is pressed as long as it can be.
+// A game with two colours that leaves at most one ball: the seed of its deal, and its presses. Each press removes a
+// group of the first colour, or of the other colour if there is none.
 struct EndingGame {
     std::uint64_t seed = 0;
     std::vector<rules::CellIndex> presses;
@@ -60,7 +64,7 @@ struct EndingGame {
     }
 };
 
-// The window with the panel of a game that has ended.
+// The main window after the end of a game, with the end-of-game panel.
 struct EndedGame : mainwindow::World {
     EndedGame() {
         const EndingGame ending(25, 25);

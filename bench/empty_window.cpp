@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// The cost of Qt without a game: an empty window of the same size.
+// Shows an empty window of the main window's default size. bench/run.py compares the game with this program, which has
+// only the costs of Qt.
 
 #include <QApplication>
 #include <QWidget>

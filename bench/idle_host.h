@@ -5,7 +5,7 @@
 
 #include "rules/host.h"
 
-/// A host that shows nothing.
+/// A host that ignores all callbacks of a move.
 struct IdleHost : rules::Host {
     void cellCleared(rules::CellIndex) override {}
     void yield() override {}

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// Benchmarks of the rules. bench/run.py prints their ratios.
+// Benchmarks of the rules. bench/run.py prints the ratios of their times.
 
 #include <benchmark/benchmark.h>
 
@@ -15,7 +15,7 @@ namespace {
 using rules::Board;
 using rules::Code;
 
-// A board with a hole in every third cell and every fifth column empty.
+// A board in which every third cell and every fifth column is empty.
 Board holedBoard(int NbCol, int NbLig) {
     Board board = rules::emptyBoard(NbCol, NbLig);
     for (std::size_t i = 0; i < board.cells.size(); ++i) {

@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-"""Builds and runs the benchmarks and prints their ratios, each with its bound.
+"""Builds and runs the benchmarks and prints ratios of their results, each with its bound.
 
-Each ratio compares two times measured side by side in one run; no test passes or fails by the clock.
+Each ratio compares two values measured side by side in one run. A missed bound is printed, but run.py does not fail.
 """
 
 import json
@@ -35,7 +35,7 @@ def build():
 
 
 class VirtualDisplay:
-    """An X display without a window manager, so that nothing else affects the time of a launch."""
+    """An X display without a window manager, because a window manager would affect the launch times."""
 
     def __enter__(self):
         reader, writer = os.pipe()
@@ -53,7 +53,10 @@ class VirtualDisplay:
 
 
 def google_benchmark(program, environment):
-    """Median time of each benchmark in seconds, for one item if the benchmark counts items."""
+    """Runs a benchmark program and returns the median time of each benchmark, in seconds.
+
+    The time is per item if the benchmark counts items, and per iteration if it does not.
+    """
     done = subprocess.run(
         [BUILD / "bin" / program, "--benchmark_format=json", "--benchmark_repetitions=7",
          "--benchmark_min_time=0.2", "--benchmark_enable_random_interleaving=true"],
@@ -67,7 +70,7 @@ def google_benchmark(program, environment):
 
 
 def launch(program, environment):
-    """Starts a program and returns it with the seconds until its window was mapped."""
+    """Starts a program. Returns its process, and the seconds from its start until its window was mapped."""
     screen = display.Display(environment["DISPLAY"])
     screen.screen().root.change_attributes(event_mask=X.SubstructureNotifyMask)
     screen.sync()
@@ -82,19 +85,19 @@ def launch(program, environment):
 
 
 def proportional_memory(process):
-    """PSS in MB."""
+    """The proportional set size (PSS) of a process in MB."""
     rollup = Path(f"/proc/{process.pid}/smaps_rollup").read_text()
     return next(int(line.split()[1]) for line in rollup.splitlines() if line.startswith("Pss:")) / 1024
 
 
 def processor_time(process):
-    """User and system time of all threads that still run, in seconds."""
+    """The processor time of a process in seconds. The time of threads that have ended is not included."""
     tasks = Path(f"/proc/{process.pid}/task").iterdir()
     return sum(int((task / "schedstat").read_text().split()[0]) for task in tasks) / 1e9
 
 
 def used_within(seconds, *processes):
-    """The processor time that each process uses during this time."""
+    """Waits for a number of seconds. Returns the seconds of processor time that each process used meanwhile."""
     before = [processor_time(process) for process in processes]
     time.sleep(seconds)
     return [processor_time(process) - start for process, start in zip(processes, before)]
@@ -109,17 +112,17 @@ def print_ratio(what, measured, base, bound, unit="s", factor=1.0):
 
 def rules(environment):
     times = google_benchmark("rules_bench", environment)
-    print_ratio("settling 32 x 1000, sweep / plain passes, a cell",
+    print_ratio("settle, 32 x 1000, per cell: rules of the game / plain rules",
                 times["settle/32/1000"], times["settle plain/32/1000"], 0.01, "ns", 1e9)
     for name in ("settle", "remove"):
-        print_ratio(f"{name}, 217 x 151 / 25 x 25, a cell",
+        print_ratio(f"{name}, per cell: 217 x 151 / 25 x 25",
                     times[f"{name}/217/151"], times[f"{name}/25/25"], 2, "ns", 1e9)
 
 
 def window(environment):
     times = google_benchmark("window_bench", environment)
     for name, bound in (("repaint", 0.5), ("new game", 3)):
-        print_ratio(f"217 x 151: {name} / repaint that blends", times[name], times["blended repaint"], bound, "ms", 1e3)
+        print_ratio(f"217 x 151: {name} / blended repaint", times[name], times["blended repaint"], bound, "ms", 1e3)
 
 
 def launches(environment, rounds=15):
@@ -132,22 +135,22 @@ def launches(environment, rounds=15):
             process.terminate()
             process.wait()
     game, empty = (statistics.median(elapsed[name][1:]) for name in programs)
-    print_ratio(f"launch until mapped, median of {rounds - 1}: game / empty window", game, empty, 1.3, "ms", 1e3)
+    print_ratio(f"time until window mapped, median of {rounds - 1}: game / empty window", game, empty, 1.3, "ms", 1e3)
 
 
 def memory_and_idleness(environment):
     game, _ = launch("zampotine", environment)
     empty, _ = launch("empty_window", environment)
     time.sleep(2)
-    print_ratio("memory (PSS) two seconds later: game / empty window",
+    print_ratio("memory (PSS) two seconds after launch: game / empty window",
                 proportional_memory(game), proportional_memory(empty), 1.6, "MB")
     empty.terminate()
     time.sleep(6)
-    print(f"processor time of the idle game within 10 s: {used_within(10, game)[0]:.2f} s")
+    print(f"processor time of the idle game in 10 s: {used_within(10, game)[0]:.2f} s")
     subprocess.run(["xdotool", "mousemove", "2400", "1500", "click", "--repeat", "5", "--delay", "400", "1"],
                    env=environment, check=True)
     time.sleep(10)
-    print(f"the same, from ten seconds after moves with sound: {used_within(10, game)[0]:.2f} s")
+    print(f"processor time of the idle game in 10 s, 10 s after moves with sound: {used_within(10, game)[0]:.2f} s")
     game.terminate()
     game.wait()
 
@@ -163,9 +166,9 @@ def animations(environment, seconds=20):
         for process in processes:
             process.terminate()
             process.wait()
-        print_ratio(f"{name}, processor time within {seconds} s: animation / repainting as much",
+        print_ratio(f"{name}, processor time in {seconds} s: animation / repainting window",
                     animated, repainting, 1.5, "ms", 1e3)
-        print(f"the same while it is hidden: {hidden:.2f} s")
+        print(f"{name}, processor time in {seconds} s while hidden: {hidden:.2f} s")
 
 
 def main():

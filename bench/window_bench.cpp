@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// A new game and a repaint on the largest board, beside a repaint that blends the balls one by one.
+// Benchmarks of the largest board: a new game, a repaint, and, for comparison, a repaint that blends each ball.
 
 #include <QPainter>
 #include <benchmark/benchmark.h>
@@ -19,7 +19,7 @@ void waitUntilExposed(QWidget& widget) {
     }
 }
 
-// The window with the largest board, on a screen that holds it.
+// The main window with the largest board, on a screen large enough for the window.
 struct LargestWindow : mainwindow::World {
     LargestWindow() {
         set("Col", "217");
@@ -31,7 +31,7 @@ struct LargestWindow : mainwindow::World {
     }
 };
 
-// Paints a ball of each colour in turn on as many cells, blended with the background.
+// Paints as many balls as the largest board has cells, in all colours, and blends each ball with the background.
 struct BlendedBoard : QWidget {
     std::vector<QPixmap> balls;
 

@@ -1,13 +1,13 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Compiler options of every target. They are linked privately, so that users of a library do not inherit them.
+# Compiler options of all targets. Targets link build_options privately: users of a library do not inherit its options.
 add_library(build_options INTERFACE)
 target_include_directories(build_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_definitions(build_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
 
-# Warnings and hardening go before the flags of the builder (CXXFLAGS, LDFLAGS): if two flags disagree,
-# the compiler takes the last.
+# Warnings and hardening go before the user's flags (CXXFLAGS, LDFLAGS). If two flags contradict each other, the last
+# flag wins.
 set(warnings
     -Wall
     -Wextra
@@ -15,7 +15,7 @@ set(warnings
     -Wshadow
     -Wconversion
     -Wno-sign-conversion # cell indices are never negative
-    -Wno-missing-field-initializers # members that a designated initializer omits have defaults
+    -Wno-missing-field-initializers # members left out of a designated initializer have defaults
     -Wold-style-cast
     -Wnon-virtual-dtor
     -Woverloaded-virtual
@@ -23,8 +23,8 @@ set(warnings
     -Wimplicit-fallthrough)
 set(hardening)
 
-# A release does not contain the path of its build folder, and it is hardened: it guards the stack, the linkage table and
-# the standard functions, and its addresses are random.
+# A release does not contain the path of the source folder. It is hardened: the compiler adds checks to the stack and to
+# calls of the C library, the linkage table is read-only, and the addresses are random.
 string(TOUPPER "${CMAKE_BUILD_TYPE}" build_type)
 if(build_type STREQUAL "RELEASE")
   include(CheckCXXCompilerFlag)
@@ -36,8 +36,8 @@ if(build_type STREQUAL "RELEASE")
       list(APPEND hardening ${flag})
     endif()
   endforeach()
-  # The compiler or the builder's flags may already set a level. Without optimisation no level works.
-  unset(fortify_source_is_free CACHE) # because the flags may have changed
+  # The compiler or the user's flags may already set _FORTIFY_SOURCE. It has no effect without optimisation.
+  unset(fortify_source_is_free CACHE) # The flags may have changed since the last run.
   check_cxx_source_compiles(
     "#if defined _FORTIFY_SOURCE || !defined __OPTIMIZE__
     #error
@@ -49,7 +49,8 @@ if(build_type STREQUAL "RELEASE")
   endif()
   target_compile_options(build_options INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
   string(PREPEND CMAKE_EXE_LINKER_FLAGS "-pie -Wl,-z,relro,-z,now ")
-  # With -fPIE the link-time optimiser would copy variables of Qt's libraries to the program.
+  # The link-time optimiser compiles during the link step. With -fPIE it would make copy relocations for variables of
+  # Qt's libraries, which Qt does not support.
   target_link_options(build_options INTERFACE -fPIC)
 endif()
 list(JOIN warnings " " warnings)
@@ -58,12 +59,12 @@ string(PREPEND CMAKE_CXX_FLAGS "${warnings} ${hardening} ")
 
 if(ZAMPOTINE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  # Coverage counters in all code guide the fuzzers through the libraries too.
+  # The fuzzers need coverage counters in the libraries, not only in their own files.
   target_compile_options(build_options INTERFACE ${sanitizers} -fsanitize=fuzzer-no-link)
   target_link_options(build_options INTERFACE ${sanitizers})
 endif()
 
-# zampotine_library(NAME sources...): the library of one folder.
+# zampotine_library(NAME SOURCE...): adds the static library of one folder.
 function(zampotine_library name)
   add_library(${name} STATIC ${ARGN})
   target_link_libraries(${name} PRIVATE build_options)

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Removes the files of the last installation, and the game's own folders if they are then empty.
+# Removes the files of the last installation, then the game's own folders if they are empty.
 if(NOT EXISTS ${MANIFEST})
   message(FATAL_ERROR "Nothing was installed from here: there is no ${MANIFEST}.")
 endif()
@@ -13,6 +13,5 @@ foreach(file IN LISTS files)
   endif()
 endforeach()
 if(DEFINED data)
-  # It removes empty folders only.
   execute_process(COMMAND rmdir ${data}/sounds ${data} ERROR_QUIET)
 endif()

@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Configures and builds one preset, with optional arguments for CMake: scripts/build.sh release
+# Usage: scripts/build.sh PRESET [OPTION...]
+# Configures and builds the preset. The options go to the configure step of CMake.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=scripts/steps.sh
@@ -11,14 +12,14 @@ preset=$1
 shift
 
 for tool in cmake ninja; do
-    command -v $tool >/dev/null || fail "The program $tool is missing. Install it and the other packages named above."
+    command -v $tool >/dev/null || fail "The program $tool is missing. Install the packages named above."
 done
 oldest=3.25
 version=$(cmake --version | sed -n 's/^cmake version //p')
-printf '%s\n' $oldest "$version" | sort -CV || fail "CMake $version is too old. Install CMake $oldest or newer; Debian 12 has it."
+printf '%s\n' $oldest "$version" | sort -CV || fail "CMake $version is too old. Install CMake $oldest or newer. Debian 12 and later have it."
 
 say "Building the preset $preset."
 logged "$preset-configure" cmake --preset "$preset" "$@" ||
-    fail "The build could not be set up (see build/$preset-configure.log). If build/$preset was made in another place or with other tools, remove it and run this again."
+    fail "CMake could not configure the build (see build/$preset-configure.log). If the folder build/$preset was made in another place or with other tools, remove the folder and try again."
 logged "$preset-build" cmake --build --preset "$preset" ||
     fail "The build failed (see build/$preset-build.log)."

@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Installs the missing Debian packages for the named purposes: scripts/install.sh build game
+# Usage: scripts/install.sh PURPOSE..., for example: scripts/install.sh build game
+# Installs the Debian packages that the purposes need, except those already installed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=scripts/steps.sh
@@ -25,15 +26,15 @@ declare -A packages=(
     [bench]='libbenchmark-dev libgtest-dev python3-xlib xvfb xdotool'
 )
 
-# The packages among the given ones that are not installed, in one line.
+# missing_of PACKAGE...: prints on one line which of the packages are not installed.
 missing_of() {
     local installed
-    # The query fails if one package is unknown, but it still lists the others.
+    # If a package is unknown, dpkg-query fails, but it still lists the other packages.
     installed=$(dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null) || true
     printf '%s installed\n' "$@" | sort -u | { grep -vxF -e "$installed" || true; } | cut -d' ' -f1 | paste -sd' '
 }
 
-# Runs apt-get as root, without a question.
+# Runs apt-get as root and without questions.
 apt() {
     local as_root=()
     [[ $EUID == 0 ]] || as_root=(sudo)
@@ -42,27 +43,27 @@ apt() {
 
 wanted=()
 for purpose; do
-    [[ -v packages[$purpose] ]] || fail "There is no list of packages for '$purpose', only for: ${!packages[*]}."
+    [[ -v packages[$purpose] ]] || fail "Unknown purpose '$purpose'. The purposes are: ${!packages[*]}."
     read -ra list <<<"${packages[$purpose]}"
     wanted+=("${list[@]}")
 done
 
 if ! command -v apt-get >/dev/null; then
-    say "This system has no apt-get, so nothing is installed. The needed packages have these names in Debian: ${wanted[*]}."
+    say "This system has no apt-get, so nothing is installed. On Debian, the needed packages are: ${wanted[*]}."
     exit 0
 fi
 missing=$(missing_of "${wanted[@]}")
 [[ -n $missing ]] || exit 0
 
-by_hand="have an administrator run: apt-get install --no-install-recommends $missing"
+by_hand="Ask an administrator to run: apt-get install --no-install-recommends $missing"
 if [[ $EUID != 0 ]]; then
-    command -v sudo >/dev/null || fail "Packages are missing, and there is neither root nor sudo to install them; $by_hand"
-    say "Packages are missing; sudo may ask for your password to install them."
-    sudo -v || fail "Packages are missing, and sudo refused to install them; $by_hand"
+    command -v sudo >/dev/null || fail "Packages are missing, but you are not root and there is no sudo. $by_hand"
+    say "Packages are missing. To install them, sudo may ask for your password."
+    sudo -v || fail "Packages are missing, but sudo refused. $by_hand"
 fi
 say "Installing packages: $missing."
-# The old package lists may be good enough. If they are not, the installation fails below.
-logged apt-update apt update || say "The package lists could not be updated, so the old ones are used."
+# Old package lists may be good enough. If they are not, the installation below fails.
+logged apt-update apt update || say "The package lists could not be updated. Using the old lists."
 read -ra list <<<"$missing"
 logged apt-install apt install --no-install-recommends "${list[@]}" ||
-    fail "These packages are missing and could not be installed: $missing. Check the network, check that this is Debian 12 or newer, then run this again (see build/apt-install.log)."
+    fail "These packages could not be installed: $missing (see build/apt-install.log). Check the network, check that this is Debian 12 or newer, then try again."

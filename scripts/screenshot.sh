@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# Shows the game on a virtual display and saves a screenshot of its window: scripts/screenshot.sh PROGRAM SCREENSHOT
+# Usage: scripts/screenshot.sh PROGRAM SCREENSHOT
+# Shows the game on a virtual display and saves a screenshot of its window.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=scripts/steps.sh
@@ -12,7 +13,7 @@ program=$1 screenshot=$2
 work=$(mktemp -d)
 processes=()
 
-# within SECONDS COMMAND... repeats the command until it succeeds; fails if it never does.
+# within SECONDS COMMAND...: repeats the command until it succeeds. Fails if the seconds pass without success.
 within() {
     local end=$((SECONDS + $1))
     shift
@@ -42,7 +43,7 @@ window_shown() {
     window=$(timeout 5 xdotool search --onlyvisible --class zampotine 2>/dev/null | head -n 1) && [[ -n $window ]]
 }
 
-# Whether the window has many colours and has not changed since the last call.
+# Succeeds if the window has many colours and looks as it did at the previous call of this function.
 painted() {
     local before=${look-}
     timeout 10 import -window "$window" "$work/window.png" 2>/dev/null || return
@@ -50,7 +51,7 @@ painted() {
     [[ $look == "$before" ]] && ((${look% *} >= 64))
 }
 
-# Keeps the player's desktop and settings out of it.
+# The game must not use the player's desktop or settings.
 unset WAYLAND_DISPLAY XAUTHORITY SESSION_MANAGER
 export XDG_CONFIG_HOME=$work XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb
 
@@ -70,5 +71,5 @@ within 30 window_shown || fail "The game showed no window on the virtual display
 within 20 painted || fail "The game's window was not painted on the virtual display (see build/game.log)."
 mv "$work/window.png" "$screenshot"
 kill -TERM "$game"
-within 20 all_ended "$game" || fail "The game did not end when it was asked to."
-wait "$game" || fail "The game ended with the status $? (see build/game.log)."
+within 20 all_ended "$game" || fail "The game did not end after SIGTERM."
+wait "$game" || fail "The game ended with status $? (see build/game.log)."

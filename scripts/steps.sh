@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 
 # shellcheck shell=bash
-# Messages of the project's scripts: one sentence for each step, details in a log, and help after a failure.
+# Functions that the project's scripts share. A script prints one sentence for each step and writes details to a log.
 
 say() {
     printf '%s\n' "$*"
@@ -13,13 +13,13 @@ fail() {
     exit 1
 }
 
-# logged NAME COMMAND... runs the command with its output in build/NAME.log. If the command fails, prints the errors in
-# the log, or the end of the log if it finds none, and fails too.
+# logged NAME COMMAND...: runs the command with its output in build/NAME.log. If the command fails, logged prints the
+# errors in the log, or the end of the log if it finds no errors there, and fails.
 logged() {
     local log=build/$1.log
     shift
     { mkdir -p build && : >"$log"; } 2>/dev/null ||
-        fail "The file $log cannot be written; after a run as root, give the folder build to yourself or remove it."
+        fail "The file $log cannot be written. If root owns the folder build, become its owner or remove it."
     if ! "$@" >"$log" 2>&1 </dev/null; then
         {
             grep -E -A2 -m4 '^E: |CMake Error|error:|undefined reference|No space left' "$log" || tail -n 30 "$log"

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-# All files of the package get the date of the release, so that every build gives the same package.
+# All files in the package get the date of the release, so that every build makes the same package.
 if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
   execute_process(
     COMMAND date --utc --date=${CPACK_ZAMPOTINE_RELEASE_DATE} +%s

@@ -125,7 +125,7 @@ def window(environment):
         print_ratio(f"217 x 151: {name} / blended repaint", times[name], times["blended repaint"], bound, "ms", 1e3)
 
 
-def launches(environment, rounds=15):
+def launches(environment, rounds=41):
     programs = ("zampotine", "empty_window")
     elapsed = {name: [] for name in programs}
     for _ in range(rounds):

@@ -13,6 +13,6 @@ struct IdleHost : rules::Host {
     void lastMoveChanged(std::string_view) override {}
     void remainingChanged(std::string_view) override {}
     void PlayWave(std::string_view) override {}
-    void boardSettled() override {}
+    void boardSettled(const rules::Landings&) override {}
     void gameEnded() override {}
 };

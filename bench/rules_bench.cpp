@@ -25,7 +25,7 @@ Board holedBoard(int NbCol, int NbLig) {
     return board;
 }
 
-template <void (*settle)(Board&)>
+template <auto settle>
 void settling(benchmark::State& state) {
     const Board before = holedBoard(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     Board board = before;

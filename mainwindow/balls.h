@@ -90,7 +90,7 @@ class balls : public QWidget, private rules::Host {
     void lastMoveChanged(std::string_view text) override;
     void remainingChanged(std::string_view text) override;
     void PlayWave(std::string_view file) override;
-    void boardSettled() override;
+    void boardSettled(const rules::Landings& landings) override;
     // end_panel.cpp
     void gameEnded() override;
     void ShowEndPanel();

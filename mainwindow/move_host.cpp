@@ -59,7 +59,7 @@ void balls::PlayWave(std::string_view file) {
     platform::yield();
 }
 
-void balls::boardSettled() {
+void balls::boardSettled(const rules::Landings&) {
     c->showBoard();
 }
 

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "rules/board.h"
+#include "rules/settle.h"
 
 namespace rules {
 
@@ -26,8 +26,9 @@ struct Host {
     virtual void remainingChanged(std::string_view text) = 0;
     /// Plays the sound file of this name and returns after the end of the sound.
     virtual void PlayWave(std::string_view file) = 0;
-    /// The balls have fallen and the columns have closed up: any cell may have changed.
-    virtual void boardSettled() = 0;
+    /// The balls have fallen and the columns have closed up: any cell may have changed. `landings` says where each ball
+    /// has gone.
+    virtual void boardSettled(const Landings& landings) = 0;
     /// The game has ended. The host returns without waiting for the player.
     virtual void gameEnded() = 0;
 

@@ -56,8 +56,7 @@ void playMove(Game& game, int i, Host& host) {
     game.Total = static_cast<std::int16_t>(game.Total - S);
     host.remainingChanged(remainingText(game.Total, game.NBBoules));
 
-    settle(game.board);
-    host.boardSettled();
+    host.boardSettled(settle(game.board));
 
     if (game.Total == 1) {
         host.gameEnded();

@@ -28,7 +28,7 @@ struct Recorder : Host {
     void lastMoveChanged(std::string_view text) override { events.append(text) += ' '; }
     void remainingChanged(std::string_view text) override { events.append(text); }
     void PlayWave(std::string_view file) override { events.append(file) += ' '; }
-    void boardSettled() override { events += " settled "; }
+    void boardSettled(const Landings&) override { events += " settled "; }
     void gameEnded() override { events += "ended"; }
 };
 

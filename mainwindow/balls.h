@@ -127,7 +127,7 @@ class balls : public QWidget, private rules::Host {
     settings::BestScores bestScores;
     rules::Game game;
     Turns turns{[this](Command command) { run(command); }};
-    RemovalPace pace;
+    RemovalPace pace{1};
     PictureFrame frame;
     std::unique_ptr<about::About> About;  ///< null while the About window is closed
 

@@ -28,8 +28,9 @@ void balls::play(rules::CellIndex i) {
         return;
     }
     turns.begin();
-    pace = {};
-    if (Check1->isChecked() && rules::isGroup(game.board, i)) {
+    const int group = rules::groupSize(game.board, i);
+    pace = RemovalPace(group);
+    if (Check1->isChecked() && group > 1) {
         surroundings.sound.warmUp();  // The sound device opens while the balls vanish.
     }
     rules::playMove(game, i, *this);

@@ -83,6 +83,7 @@ class balls : public QWidget, private rules::Host {
     // press.cpp
     void c_MouseDown(rules::CellIndex i, const QMouseEvent& press);
     void play(rules::CellIndex i);
+    void run(Press press);
     // move_host.cpp
     void cellCleared(rules::CellIndex i) override;
     void yield() override;
@@ -104,6 +105,7 @@ class balls : public QWidget, private rules::Host {
     void showBestScore(int level);
     // hover_and_drag.cpp
     void connectMouse();
+    void drag(QWidget& control, const QMouseEvent& press);
     void Form_MouseDown(const QMouseEvent& press);
     void Form_MouseMove();
     void Frame2_MouseMove();
@@ -126,7 +128,7 @@ class balls : public QWidget, private rules::Host {
     Surroundings surroundings;
     settings::BestScores bestScores;
     rules::Game game;
-    Turns turns{[this](Command command) { run(command); }};
+    Turns turns{[this](Request request) { std::visit([this](auto asked) { run(asked); }, request); }};
     RemovalPace pace{1};
     PictureFrame frame;
     std::unique_ptr<about::About> About;  ///< null while the About window is closed

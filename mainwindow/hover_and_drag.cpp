@@ -27,13 +27,20 @@ void balls::connectMouse() {
     }
     // These labels all do the same, so none has handlers of its own, such as l1_MouseDown.
     for (platform::Label* label : {l1[0], l1[3], Label2, Label3, Label4, sc}) {
-        platform::onPress(*label, [label](const QMouseEvent& press) { platform::dragWindow(*label, press); });
+        platform::onPress(*label, [this, label](const QMouseEvent& press) { drag(*label, press); });
         platform::onMove(*label, [this] { highlight(noButton); });
     }
 }
 
+void balls::drag(QWidget& control, const QMouseEvent& press) {
+    // During a move, the pointer may be over a cell that has just lost its ball.
+    if (!turns.isMoving()) {
+        platform::dragWindow(control, press);
+    }
+}
+
 void balls::Form_MouseDown(const QMouseEvent& press) {
-    platform::dragWindow(*this, press);
+    drag(*this, press);
 }
 
 void balls::Form_MouseMove() {

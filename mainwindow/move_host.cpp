@@ -59,7 +59,8 @@ void balls::PlayWave(std::string_view file) {
     platform::yield();
 }
 
-void balls::boardSettled(const rules::Landings&) {
+void balls::boardSettled(const rules::Landings& landings) {
+    turns.follow(landings);
     c->showBoard();
 }
 

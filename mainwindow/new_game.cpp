@@ -30,6 +30,7 @@ void balls::startGame() {
     NewGame();
     LayoutBoard();
     l1[0]->clear();
+    turns.dropPresses();  // They were made on the board of the last game.
     turns.end();
 }
 

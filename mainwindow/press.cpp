@@ -12,9 +12,6 @@
 namespace mainwindow {
 
 void balls::c_MouseDown(rules::CellIndex i, const QMouseEvent& press) {
-    if (turns.isMoving()) {
-        return;
-    }
     highlight(noButton);
     if (game.board[i] == rules::Code::none) {
         Form_MouseDown(press);
@@ -24,16 +21,20 @@ void balls::c_MouseDown(rules::CellIndex i, const QMouseEvent& press) {
 }
 
 void balls::play(rules::CellIndex i) {
-    if (turns.isMoving()) {
-        return;
+    // A press waits for the end of the current move, but only a ball can be found again then.
+    if (game.board[i] != rules::Code::none) {
+        turns.perform(Press{i});
     }
+}
+
+void balls::run(Press press) {
+    const int group = rules::groupSize(game.board, press.cell);
     turns.begin();
-    const int group = rules::groupSize(game.board, i);
     pace = RemovalPace(group);
     if (Check1->isChecked() && group > 1) {
         surroundings.sound.warmUp();  // The sound device opens while the balls vanish.
     }
-    rules::playMove(game, i, *this);
+    rules::playMove(game, press.cell, *this);
     turns.end();
 }
 

@@ -34,6 +34,7 @@ TEST(Move, CommandsDuringAMoveRunAfterItInTheirOrderAndOptionsAtOnce) {
         }
         world.command(2);  // the reset comes after the move's score, and before the new game
         world.command(0);
+        world.press(3);  // a ball of the board before
         QTest::mousePress(world.control<QWidget>("Image1"), Qt::LeftButton);
         EXPECT_EQ(world.shown(), world.window.get()) << "the About window comes after it too";
         world.select(2);
@@ -48,6 +49,25 @@ TEST(Move, CommandsDuringAMoveRunAfterItInTheirOrderAndOptionsAtOnce) {
     EXPECT_EQ(world.game().NbCoul, 4);
     EXPECT_EQ(world.text("l1", 0), "");
     EXPECT_NE(world.shown(), world.window.get());
+}
+
+TEST(Move, PressDuringAMoveIsPlayedWhereItsBallHasFallen) {
+    for (const bool soundOn : {true, false}) {
+        World world;
+        world.set("Son", soundOn ? "1" : "0");
+        world.open("br br rb rb");
+        const auto pressMeanwhile = [&] {
+            if (world.game().Total == 8 && world.game().score <= 4) {
+                world.press(3);  // vanishes
+                world.press(2);  // empty
+                world.press(0);  // falls beside its like
+            }
+        };
+        soundOn ? world.sound.meanwhile = pressMeanwhile : world.inPause = pressMeanwhile;
+        world.press(2);
+        EXPECT_EQ(world.game().board, boardOf(".. .. r. r."));
+        EXPECT_EQ(world.text("sc"), "17") << "a pair and a group of four";
+    }
 }
 
 TEST(Move, ClosingDuringAMoveEndsItAtOnceAndLosesNothing) {

@@ -70,6 +70,7 @@ struct Storm : World {
             ++depth;
             const auto& [name, perform] = acts[draw(draw(2) == 0 ? 3 : acts.size())];
             trail += '\n' + std::string(depth, ' ') + name;
+            takeDown();
             perform();
             QCoreApplication::processEvents();
             --depth;

@@ -58,6 +58,7 @@ About::About(const platform::Box& screen, const animation::RandomSource& random,
         platform::onClick(*label, [this, k] { Label1_Click(k); });
         platform::setAccessibleRole(*label, {QAccessible::Link, [this, k] { Label1_Click(k); }, {}});
         label->setFocusPolicy(Qt::TabFocus);
+        label->setCursor(Qt::PointingHandCursor);
         ++k;
     }
     setTabOrder(Label1[mail], Label1[site]);

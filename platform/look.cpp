@@ -6,14 +6,18 @@
 #include <QApplication>
 #include <QProxyStyle>
 #include <QStyleHints>
+#include <QStyleOption>
 #include <QToolTip>
+
+#include "platform/focus_ring.h"
 
 using namespace Qt::StringLiterals;
 
 namespace platform {
 namespace {
 
-// The Fusion style. The sizes of indicators and of the gaps beside them fit the widths of the options.
+// The Fusion style with a focus ring of its own. The sizes of indicators and of the gaps beside them fit the widths of
+// the options.
 class Style : public QProxyStyle {
   public:
     Style() : QProxyStyle(u"fusion"_s) {}
@@ -28,8 +32,28 @@ class Style : public QProxyStyle {
             case PM_ExclusiveIndicatorWidth:
             case PM_ExclusiveIndicatorHeight:
                 return 13;
+            case PM_FocusFrameHMargin:
+            case PM_FocusFrameVMargin:
+                return focusRingWidth;
             default:
                 return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        if (element == CE_FocusFrame) {
+            drawFocusRing(*painter, option->rect);
+        } else {
+            QProxyStyle::drawControl(element, option, painter, widget);
+        }
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        // The focus ring replaces the focus rectangle of Fusion, which is too pale on the steel blue background.
+        if (element != PE_FrameFocusRect) {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
         }
     }
 };
@@ -72,6 +96,7 @@ void applyLook() {
     QApplication::setFont(uiFont());
     QToolTip::setPalette(steelPalette());
     QToolTip::setFont(uiFont());
+    showFocusRing();
 }
 
 }  // namespace platform

@@ -18,7 +18,7 @@ enum class FontSize { small = 11, medium = 16, large = 32 };
 /// widths of Liberation Sans. The size is in pixels, so the font settings of the desktop do not change it.
 QFont uiFont(FontSize size = FontSize::small, QFont::Weight weight = QFont::Normal);
 
-/// Sets the style, the palette and the fonts of the program. They are the same on every desktop.
+/// Sets the style, the palette, the fonts and the focus ring of the program. They are the same on every desktop.
 void applyLook();
 
 }  // namespace platform

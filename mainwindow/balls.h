@@ -17,6 +17,7 @@
 #include "rules/host.h"
 #include "settings/best_scores.h"
 
+class QAction;
 class QCheckBox;
 class QRadioButton;
 
@@ -57,7 +58,8 @@ class balls : public QWidget, private rules::Host {
 
   private:
     static constexpr int noButton = 5;  ///< No button has this index. highlight(noButton) highlights none.
-    static constexpr std::array<QKeyCombination, 3> commandKeys{Qt::Key_F2, Qt::CTRL | Qt::Key_Q, Qt::CTRL | Qt::Key_R};
+    static constexpr std::array<QKeyCombination, 3> commandKeys{Qt::Key_F2, Qt::CTRL | Qt::Key_Q,
+                                                                Qt::CTRL | Qt::Key_Delete};
     static constexpr QKeyCombination helpKey = Qt::Key_F1;
 
     // balls.cpp
@@ -117,6 +119,7 @@ class balls : public QWidget, private rules::Host {
     void mouseMoveEvent(QMouseEvent* event) override;
     // shortcuts_and_tabs.cpp
     void connectKeys();
+    void returnToBoard();
     void orderTabStops();
     // screen_reader_names.cpp
     void describeControls();
@@ -148,6 +151,7 @@ class balls : public QWidget, private rules::Host {
     std::array<platform::Label*, rules::levels> hsc{};
     std::array<platform::Label*, 4> l1{};  ///< elements 1 and 2 stay null
     animation::BouncingPictures* endBalls = nullptr;
+    QAction* closePanel = nullptr;  ///< the board's keys that close the end-of-game panel; disabled without the panel
 };
 
 }  // namespace mainwindow

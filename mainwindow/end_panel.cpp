@@ -3,6 +3,8 @@
 
 // The end-of-game panel, `Frame1`.
 
+#include <QAction>
+
 #include "mainwindow/balls.h"
 #include "platform/label.h"
 #include "platform/look.h"
@@ -15,6 +17,7 @@ namespace mainwindow {
 
 void balls::gameEnded() {
     Frame1->show();
+    closePanel->setEnabled(true);
     setScoreBold(true);
     ShowEndPanel();
 }
@@ -38,6 +41,7 @@ void balls::Frame1_Click() {
 
 void balls::hideEndPanel() {
     Frame1->hide();
+    closePanel->setEnabled(false);
     endBalls->stop();
     setScoreBold(false);
 }

@@ -4,11 +4,13 @@
 // The shortcuts and the tab order of the main window. The board handles its own keys. Qt handles the usual keys of
 // the other controls.
 
+#include <QAction>
 #include <QCheckBox>
 #include <QRadioButton>
 #include <QShortcut>
 
 #include "mainwindow/balls.h"
+#include "mainwindow/board/board_widget.h"
 #include "platform/text_box.h"
 
 namespace mainwindow {
@@ -26,9 +28,24 @@ void balls::connectKeys() {
     on(this, helpKey, [this] { Image1_MouseDown(); });
     on(this, Qt::CTRL | Qt::Key_S, [this] { Check1->toggle(); });
     // Qt ignores the shortcuts of Frame1 while Frame1 is hidden.
-    for (const auto key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-        on(Frame1, key, [this] { Frame1_Click(); });
+    on(Frame1, Qt::Key_Escape, [this] {
+        Frame1_Click();
+        returnToBoard();
+    });
+    // Only the board's own keys close the panel: in a size box, Space writes a blank, and on an option it selects.
+    closePanel = new QAction(c);
+    closePanel->setShortcuts({Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter});
+    closePanel->setShortcutContext(Qt::WidgetShortcut);
+    closePanel->setAutoRepeat(false);
+    connect(closePanel, &QAction::triggered, this, &balls::Frame1_Click);
+    c->addAction(closePanel);
+    for (platform::TextBox* box : Text1) {
+        connect(box, &platform::TextBox::finished, this, &balls::returnToBoard);
     }
+}
+
+void balls::returnToBoard() {
+    c->setFocus(Qt::ShortcutFocusReason);
 }
 
 // The board was created first, so it is already first in the tab order.

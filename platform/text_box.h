@@ -9,8 +9,9 @@ class QLineEdit;
 
 namespace platform {
 
-/// A one-line text box without a context menu. A QLineEdit loads fonts when it is created. So the text box creates its
-/// QLineEdit only at the first painting, when the window is already on the screen.
+/// A one-line text box without a context menu. Its keys for editing come before the shortcuts of the window. A
+/// QLineEdit loads fonts when it is created. So the text box creates its QLineEdit only at the first painting, when the
+/// window is already on the screen.
 class TextBox : public QWidget {
     Q_OBJECT
 
@@ -21,7 +22,13 @@ class TextBox : public QWidget {
     QString text() const;
     void setText(const QString& text);
 
+  Q_SIGNALS:
+    /// The player pressed Enter or Escape in the box.
+    void finished();
+
   protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:

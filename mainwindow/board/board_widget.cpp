@@ -22,7 +22,7 @@ namespace mainwindow {
 
 BoardWidget::BoardWidget(QWidget& window, const rules::Board& board) : QWidget(&window), shownBoard(board) {
     setObjectName(u"c"_s);
-    setFocusPolicy(Qt::TabFocus);
+    setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     std::ranges::transform(rules::codes, ballPictures.begin(), [this](rules::Code code) {
         const QString file = u"i%1.gif"_s.arg(QLatin1Char(static_cast<char>(code)));
@@ -84,8 +84,10 @@ bool BoardWidget::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void BoardWidget::focusInEvent(QFocusEvent* event) {
-    const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    setCursorShown(isCursorShown || byKey);
+    const auto reason = event->reason();
+    const bool isByKey =
+        reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+    setCursorShown(isCursorShown || isByKey);
     emit cursorMoved();
 }
 
@@ -114,6 +116,8 @@ void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
 
 void BoardWidget::mousePressEvent(QMouseEvent* event) {
     if (const auto cell = cellAt(shownBoard, platform::pixelUnder(*event))) {
+        cursor = shownBoard.positionOf(*cell);
+        emit cursorMoved();
         emit pressed(*cell, *event);
     } else {
         event->ignore();

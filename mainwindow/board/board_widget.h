@@ -16,8 +16,9 @@ namespace mainwindow {
 /// The board on the screen, the control `c`. It paints the cells, finds the cell under the pointer, and moves a cursor
 /// with the keys. Mouse events in the margin around the cells go to the window.
 ///
-/// The board is one tab stop. The cursor appears when the player enters the board with Tab or presses a key on the
-/// board. Any use of the mouse hides the cursor.
+/// The board is one tab stop. The cursor appears when the player enters the board with a key or presses a key on the
+/// board. Any use of the mouse hides the cursor. A press of a mouse button on a cell gives the board the keyboard focus
+/// and moves the hidden cursor to this cell.
 class BoardWidget : public QWidget {
     Q_OBJECT
 

@@ -49,7 +49,7 @@ class Accessible(Case):
             player.act("key", "F1")
             player.leave_about(player.expect_window("About", lambda window: window not in (None, player.window)),
                                "key", "Return")
-            player.act("key", "ctrl+r", "key", "ctrl+q")
+            player.act("key", "ctrl+Delete", "key", "ctrl+q")
             self.assertEqual(player.process.wait(PATIENCE), 0)
             self.assertEqual(player.stored()["0"], "0")
 
@@ -87,7 +87,7 @@ class Accessible(Case):
             self.assertEqual(reader.board(), board)
             self.assertEqual(self.said_of(reader, "button"), {
                 "Nouvelle": ("Recommencer une partie", "F2"), "Quitter": ("Quitter la partie", "Ctrl+Q"),
-                "Zéro": ("Remettre à zéro le meilleur score de ce niveau de difficulté.", "Ctrl+R"),
+                "Zéro": ("Remettre à zéro le meilleur score de ce niveau de difficulté.", "Ctrl+Del"),
                 "Aide": ("A Propos / Aide", "F1")})
             self.assertTrue(reader.find("text", "Colonnes").queryText().getText(0, -1) == "8" and
                             reader.find("text", "Lignes").queryText().getText(0, -1) == "14")

@@ -81,7 +81,7 @@ class Kills(Case):
                     player = Player(desktop, PROGRAM)
                     starts.append(time.monotonic() - began)
                     process, possible = player.process, {best, 0}
-                    player.act("key", "ctrl+r")
+                    player.act("key", "ctrl+Delete")
                     if moment != "reset":
                         wait_for("the reset", lambda: player.stored()["0"] == "0")
                         board = player.board()
@@ -106,7 +106,7 @@ class Kills(Case):
             file.with_suffix(".ini.aBcDeF.part").touch()  # few kills leave one behind
             file.write_text(re.sub("(?m)^0=.*", "0=5", file.read_text()))
             player = Player(desktop, PROGRAM)
-            player.act("key", "ctrl+r")
+            player.act("key", "ctrl+Delete")
             wait_for("the reset", lambda: player.stored()["0"] == "0")
             player.process.terminate()
             self.assertEqual(player.process.wait(PATIENCE), 0)

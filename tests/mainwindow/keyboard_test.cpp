@@ -70,13 +70,41 @@ TEST(Keyboard, SpaceAndEnterPressTheCellOnce) {
     }
 }
 
-TEST(Keyboard, EndPanelIsLeftWithAKey) {
+TEST(Keyboard, EndPanelIsLeftWithAKeyOfTheBoardOrWithEscape) {
     for (const auto key : {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
-        KeyboardWorld world("r r b");
-        world.finish();
-        world.key(key);
-        EXPECT_FALSE(world.control<QWidget>("Frame1")->isVisible());
+        for (const char* focused : {"c", "Check1"}) {
+            KeyboardWorld world("r r b");
+            world.finish();
+            world.control<QWidget>(focused)->setFocus();
+            world.key(key);
+            const bool closes = key == Qt::Key_Escape || world.cells()->hasFocus();
+            EXPECT_NE(world.control<QWidget>("Frame1")->isVisible(), closes) << focused << ' ' << key;
+            EXPECT_EQ(world.cells()->hasFocus(), closes);
+        }
     }
+}
+
+TEST(Keyboard, PressOnTheBoardAndEnterOrEscapeInASizeBoxGiveItTheKeyboard) {
+    KeyboardWorld world("rb rb");
+    auto* box = world.control<QWidget>("Text1", 1);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+        box->setFocus();
+        world.key(key);
+        EXPECT_TRUE(world.cells()->hasFocus()) << key;
+    }
+    box->setFocus();
+    world.press(3);
+    world.key(Qt::Key_5);
+    EXPECT_EQ(world.box(1), "2") << "no stray digit";
+    EXPECT_EQ(world.cells()->cursorCell(), 3);
+    box->setFocus();
+    world.key(Qt::Key_Home);
+    world.key(Qt::CTRL | Qt::Key_Delete);
+    EXPECT_EQ(world.box(1), "");
+    EXPECT_EQ(world.text("Label4"), "4") << "a size box keeps its keys";
+    world.cells()->setFocus();
+    world.key(Qt::CTRL | Qt::Key_Delete);
+    EXPECT_EQ(world.text("Label4"), "0");
 }
 
 TEST(Keyboard, LetterKeysDealAndSwitchTheSoundAndAHeldKeyLeavesAboutOpen) {

@@ -87,7 +87,7 @@ struct Storm : World {
     void key() {
         const int key = draw(2) == 0 ? Qt::Key_Space + draw(60) : Qt::Key_Escape + draw(60);
         const bool withControl = draw(3) == 0;
-        wasReset |= withControl && key == Qt::Key_R;
+        wasReset |= withControl && key == Qt::Key_Delete;
         QWidget* hearer = shown()->focusWidget() == nullptr ? shown() : shown()->focusWidget();
         QTest::sendKeyEvent(QTest::Click, hearer, Qt::Key(key), QString(1, QChar(key & 127)),
                             withControl ? Qt::ControlModifier : Qt::NoModifier);

@@ -35,6 +35,14 @@ bool isGroup(const Board& board, int i) {
     return match;
 }
 
+bool hasGroup(const Board& board) {
+    CellIndex i = 0;
+    while (board.contains(i) && !isGroup(board, i)) {
+        ++i;
+    }
+    return board.contains(i);
+}
+
 int groupSize(const Board& board, CellIndex i) {
     std::vector<bool> isFound(board.cells.size());
     return board[i] == Code::none ? 0 : static_cast<int>(groupOf(board, i, isFound).size());

@@ -32,6 +32,9 @@ void forEachNeighbour(const Board& board, CellIndex i, Visit visit) {
 /// False if i is not on the board.
 bool isGroup(const Board& board, int i);
 
+/// Whether the board has a group: two neighbours that hold balls of the same colour.
+bool hasGroup(const Board& board);
+
 /// The number of balls in the group of cell i: the ball in the cell and all connected balls of the same colour. Returns
 /// 1 for a lone ball and 0 for an empty cell. Cell i must be on the board.
 int groupSize(const Board& board, CellIndex i);

@@ -48,6 +48,11 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
         for (const auto& [i, cell] : cells) {
             cell->reportName(groups[i]);
         }
+        const QString before = lastRead;
+        if (text(QAccessible::Name) != before) {
+            QAccessibleEvent event(this, QAccessible::NameChanged);
+            QAccessible::updateAccessibility(&event);
+        }
     }
 
     void* interface_cast(QAccessible::InterfaceType type) override {
@@ -55,7 +60,11 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
                                                    : QAccessibleWidget::interface_cast(type);
     }
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Name ? u"Plateau"_s : QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Name) {
+            return QAccessibleWidget::text(kind);
+        }
+        lastRead = rules::hasGroup(boardWidget.board()) ? u"Plateau"_s : u"Plateau, aucun groupe"_s;
+        return lastRead;
     }
     int childCount() const override { return static_cast<int>(boardWidget.board().cells.size()); }
     QAccessibleInterface* child(int index) const override {
@@ -110,6 +119,7 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
 
     BoardWidget& boardWidget;
     mutable std::map<rules::CellIndex, AccessibleCell*> cells;
+    mutable QString lastRead;  // the name
     int columnsBefore = boardWidget.board().NbCol;
     int rowsBefore = boardWidget.board().NbLig;
 };

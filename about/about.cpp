@@ -50,13 +50,12 @@ About::About(const platform::Box& screen, const animation::RandomSource& random,
     platform::keepSizeOnEveryScreen(*this);
     move(platform::toPixels(screen.Left + (screen.Width - platform::toTwips(width())) / 2),
          platform::toPixels(screen.Top + (screen.Height - platform::toTwips(height())) / 2));
-    platform::setAccessibleRole(*this, {.role = QAccessible::Window});
     platform::buildControls(controls(), *this, assets::picture);
     for (int k = 0; auto& label : Label1) {
         label = platform::control<platform::Label>(*this, "Label1", k);
         platform::onMove(*label, [this, k] { Label1_MouseMove(k); });
         platform::onClick(*label, [this, k] { Label1_Click(k); });
-        platform::setAccessibleRole(*label, {QAccessible::Link, [this, k] { Label1_Click(k); }, {}});
+        platform::setAccessibleRole(*label, {.role = QAccessible::Link, .press = [this, k] { Label1_Click(k); }});
         label->setFocusPolicy(Qt::TabFocus);
         label->setCursor(Qt::PointingHandCursor);
         ++k;
@@ -80,6 +79,9 @@ void About::describe() {
     for (const platform::Label* label : Label2) {
         paragraphs += label->text();
     }
+    QList<QPointer<QWidget>> inReadingOrder(Label2.begin(), Label2.end());
+    inReadingOrder << Label1[mail] << Label1[site] << Label1[back];
+    platform::setAccessibleRole(*this, {.role = QAccessible::Window, .children = inReadingOrder});
     setAccessibleName(u"A Propos / Aide"_s);
     setAccessibleDescription(paragraphs.join(u'\n'));
 }

@@ -77,6 +77,7 @@ void balls::createControls() {
     bind(l1[3], "l1", 3);
     bindAll(Text1, "Text1");
     bindAll(Option1, "Option1");
+    groupLevels();
     bindAll(LabBtn, "LabBtn");
     bindAll(ImBTN, "ImBTN");
     bindAll(Label5, "Label5");

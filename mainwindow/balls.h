@@ -79,6 +79,7 @@ class balls : public QWidget, private rules::Host {
     void NewGame();
     void LayoutBoard();
     // level_options.cpp
+    void groupLevels();
     void connectLevels();
     void Option1_Click(int Index);
     int selectedLevel() const;

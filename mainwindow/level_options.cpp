@@ -12,6 +12,23 @@
 
 namespace mainwindow {
 
+// Screen readers read out the name of the group when the focus enters it. The options fill the group, so the mouse
+// never meets the group itself.
+void balls::groupLevels() {
+    QRect area;
+    for (const QRadioButton* option : Option1) {
+        area |= option->geometry();
+    }
+    auto* group = new QWidget(Frame2);
+    group->setGeometry(area);
+    for (QRadioButton* option : Option1) {
+        const QPoint place = option->pos() - area.topLeft();
+        option->setParent(group);
+        option->move(place);
+        option->show();
+    }
+}
+
 void balls::connectLevels() {
     for (int k = 0; QRadioButton * option : Option1) {
         // The options are one tab stop: Tab goes to the selected option.

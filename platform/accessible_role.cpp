@@ -6,7 +6,6 @@
 #include <utility>
 
 #include <QAccessibleWidget>
-#include <QLabel>
 
 namespace platform {
 namespace {
@@ -15,19 +14,49 @@ namespace {
 // reader asks for it.
 class RoleOfParent : public QObject {
   public:
-    RoleOfParent(QWidget& control, AccessibleRole given) : QObject(&control), role(std::move(given)) {}
+    RoleOfParent(QWidget& control, AccessibleRole given) : QObject(&control), role(std::move(given)) {
+        if (auto* label = qobject_cast<QLabel*>(&control); label != nullptr && role.labels.isEmpty()) {
+            role.labels = {label};
+        }
+    }
 
-    const AccessibleRole role;
+    AccessibleRole role;
 };
 
 class Interface : public QAccessibleWidget {
   public:
-    Interface(QWidget& control, const AccessibleRole& role) : QAccessibleWidget(&control, role.role), known(role) {}
+    Interface(QWidget& control, AccessibleRole role) : QAccessibleWidget(&control, role.role), known(std::move(role)) {}
 
     QString text(QAccessible::Text kind) const override {
-        const auto* label = qobject_cast<const QLabel*>(widget());
-        const bool isItsName = kind == QAccessible::Name && label != nullptr && widget()->accessibleName().isEmpty();
-        return isItsName ? label->text() : QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Name || known.labels.isEmpty() || !widget()->accessibleName().isEmpty()) {
+            return QAccessibleWidget::text(kind);
+        }
+        QStringList texts;
+        for (const QLabel* label : known.labels) {
+            texts += label == nullptr ? QString() : label->text();
+        }
+        texts.removeAll({});
+        return texts.join(u' ');
+    }
+
+    QRect rect() const override {
+        QRect area = QAccessibleWidget::rect();
+        for (const QLabel* label : known.labels) {
+            if (label != nullptr && label->isVisible()) {
+                area |= {label->mapToGlobal(QPoint()), label->size()};
+            }
+        }
+        return area;
+    }
+
+    int childCount() const override { return static_cast<int>(children().size()); }
+
+    QAccessibleInterface* child(int index) const override {
+        return QAccessible::queryAccessibleInterface(children().value(index));
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return child == nullptr ? -1 : static_cast<int>(children().indexOf(child->object()));
     }
 
     // A screen reader would read out a notification even if its text is empty.
@@ -59,7 +88,18 @@ class Interface : public QAccessibleWidget {
     }
 
   private:
-    const AccessibleRole& known;
+    // A text box gives the keyboard focus to its editor. Screen readers find only the editor.
+    QObjectList children() const {
+        QObjectList found;
+        for (QWidget* control : known.children) {
+            if (control != nullptr) {
+                found += control->focusProxy() == nullptr ? control : control->focusProxy();
+            }
+        }
+        return found;
+    }
+
+    const AccessibleRole known;
 };
 
 QAccessibleInterface* create(const QString&, QObject* object) {
@@ -80,10 +120,9 @@ QAccessibleInterface* create(const QString&, QObject* object) {
 void setAccessibleRole(QWidget& control, AccessibleRole role) {
     QAccessible::installFactory(create);  // Qt installs the same function only once
     new RoleOfParent(control, std::move(role));
-    if (QAccessible::isActive()) {
-        // Qt may already have created an interface without the role. After its deletion, Qt creates one with the role.
-        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&control)));
-    }
+    // Qt may already have created an interface without the role: setting the text of a label creates one, even if no
+    // screen reader is active. After its deletion, Qt creates one with the role.
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&control)));
 }
 
 void announce(QWidget& notification) {

@@ -16,13 +16,9 @@
 namespace platform {
 namespace {
 
-// The control to surround, or null. The editor of a text box fills its box, which would cut off a ring in it.
-QWidget* controlWithRing(QWidget* focused) {
-    if (qobject_cast<QLineEdit*>(focused) != nullptr) {
-        return focused->parentWidget();
-    }
-    const bool hasRing = qobject_cast<QAbstractButton*>(focused) != nullptr || qobject_cast<Label*>(focused) != nullptr;
-    return hasRing ? focused : nullptr;
+bool hasRing(const QWidget* control) {
+    return qobject_cast<const QAbstractButton*>(control) != nullptr ||
+           qobject_cast<const QLineEdit*>(control) != nullptr || qobject_cast<const Label*>(control) != nullptr;
 }
 
 // Knows which device the player used last, in all windows: a window that a key has opened has a ring from the start.
@@ -47,9 +43,9 @@ class FocusRing : public QObject {
   private:
     void surround(QWidget*, QWidget* focused) {
         delete ring;
-        if (QWidget* control = controlWithRing(focused); usesKeys && control != nullptr) {
-            ring = new QFocusFrame(control->parentWidget());
-            ring->setWidget(control);
+        if (usesKeys && hasRing(focused)) {
+            ring = new QFocusFrame(focused->window());
+            ring->setWidget(focused);
         }
     }
 

@@ -9,6 +9,18 @@
 #include <QLineEdit>
 
 namespace platform {
+namespace {
+
+// QLineEdit deletes the end of a word with Ctrl+Delete, but lets a shortcut have this key.
+bool isEditingKey(const QKeyEvent& key) {
+    return key.matches(QKeySequence::DeleteEndOfWord);
+}
+
+bool isFinishingKey(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Escape || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
+}  // namespace
 
 TextBox::TextBox(QString text, QWidget* parent) : QWidget(parent), initial(std::move(text)) {
     setFocusPolicy(Qt::StrongFocus);
@@ -32,33 +44,27 @@ void TextBox::paintEvent(QPaintEvent*) {
     }
 }
 
-// QLineEdit deletes the end of a word with Ctrl+Delete, but lets a shortcut have this key.
 bool TextBox::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::ShortcutOverride &&
-        static_cast<QKeyEvent*>(event)->matches(QKeySequence::DeleteEndOfWord)) {
+    if (event->type() == QEvent::ShortcutOverride && isEditingKey(*static_cast<QKeyEvent*>(event))) {
         event->accept();
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && isFinishingKey(*static_cast<QKeyEvent*>(event))) {
+        Q_EMIT finished();
         return true;
     }
     return QWidget::eventFilter(watched, event);
 }
 
-// These keys come from the editor, which does not use them.
-void TextBox::keyPressEvent(QKeyEvent* event) {
-    const int key = event->key();
-    if (key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter) {
-        Q_EMIT finished();
-    } else {
-        QWidget::keyPressEvent(event);
-    }
-}
-
 void TextBox::createEditor() {
-    editor = new QLineEdit(initial, this);
+    editor = new QLineEdit(initial, parentWidget());
     editor->setObjectName(objectName());
     editor->setAccessibleName(accessibleName());
     editor->setContextMenuPolicy(Qt::PreventContextMenu);
-    editor->setGeometry(rect());
     editor->installEventFilter(this);
+    editor->setAttribute(Qt::WA_NoMousePropagation);
+    editor->setFont(font());
+    editor->setGeometry(geometry());
     setTabOrder(this, editor);
     setFocusProxy(editor);
     editor->show();

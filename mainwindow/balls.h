@@ -124,6 +124,7 @@ class balls : public QWidget, private rules::Host {
     void orderTabStops();
     // screen_reader_names.cpp
     void describeControls();
+    void announceStatus();
     // open_about.cpp
     void Image1_MouseDown();
     void openAbout();

@@ -16,6 +16,7 @@ using namespace Qt::StringLiterals;
 namespace mainwindow {
 
 void balls::gameEnded() {
+    announceStatus();
     Frame1->show();
     closePanel->setEnabled(true);
     setScoreBold(true);

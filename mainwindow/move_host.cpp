@@ -7,16 +7,14 @@
 
 #include "mainwindow/balls.h"
 #include "mainwindow/board/board_widget.h"
-#include "platform/accessible_role.h"
 #include "platform/label.h"
 #include "platform/yield.h"
 
 namespace mainwindow {
 namespace {
 
-void showStatus(platform::Label& line, std::string_view utf8) {
-    line.setText(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
-    platform::announce(line);
+QString textOf(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
 }  // namespace
@@ -41,11 +39,11 @@ void balls::scoreChanged() {
 }
 
 void balls::lastMoveChanged(std::string_view text) {
-    showStatus(*l1[0], text);
+    l1[0]->setText(textOf(text));
 }
 
 void balls::remainingChanged(std::string_view text) {
-    showStatus(*l1[3], text);
+    l1[3]->setText(textOf(text));
 }
 
 void balls::PlayWave(std::string_view file) {
@@ -62,6 +60,10 @@ void balls::PlayWave(std::string_view file) {
 void balls::boardSettled(const rules::Landings& landings) {
     turns.follow(landings);
     c->showBoard();
+    // The end of a game may double the score, so gameEnded() announces the last move.
+    if (game.Total > 1) {
+        announceStatus();
+    }
 }
 
 }  // namespace mainwindow

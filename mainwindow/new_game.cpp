@@ -31,6 +31,7 @@ void balls::startGame() {
     LayoutBoard();
     l1[0]->clear();
     turns.dropPresses();  // They were made on the board of the last game.
+    announceStatus();
     turns.end();
 }
 

@@ -126,8 +126,10 @@ void setAccessibleRole(QWidget& control, AccessibleRole role) {
 }
 
 void announce(QWidget& notification) {
-    QAccessibleEvent shown(&notification, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&shown);
+    if (notification.isVisible()) {
+        QAccessibleEvent shown(&notification, QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&shown);
+    }
 }
 
 }  // namespace platform

@@ -30,7 +30,8 @@ struct AccessibleRole {
 /// control does nothing.
 void setAccessibleRole(QWidget& control, AccessibleRole role);
 
-/// Makes screen readers read out a control whose role is QAccessible::Notification.
+/// Makes screen readers read out a control whose role is QAccessible::Notification. Qt does the same when it shows the
+/// control, so a hidden control is not announced here.
 void announce(QWidget& notification);
 
 }  // namespace platform

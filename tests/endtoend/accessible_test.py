@@ -71,12 +71,15 @@ class Accessible(Case):
                 score, left = score + model.points(len(group)), left - len(group)
                 board, before = model.without(board, group), cells
                 reader.press(table.queryTable().getAccessibleAt(cell[1], cell[0]))
-                reader.wait_to_hear(f"{len(group)} balles crevées ({model.points(len(group))} points.)",
-                                    f"Il reste {left} balles sur 112.", *["Terminé, Meilleur score !!!"] * (left == 1))
+                sizes = {ball: len(balls) for balls in model.groups(board) for ball in balls}
+                ended = max(sizes.values()) == 1
+                move = (f"{len(group)} balles crevées ({model.points(len(group))} points.) Score {score}. "
+                        f"Il reste {left} balles sur 112." + " Aucun groupe." * ended)
+                reader.wait_to_hear(move, *["now: Plateau, aucun groupe", "Terminé, Meilleur score !!!"] * ended)
                 cells = reader.cells()
                 reader.listen()
+                self.assertEqual([it for it in reader.heard if "balles" in it and "now:" not in it], [move])
                 told = set(reader.heard)
-                sizes = {ball: len(balls) for balls in model.groups(board) for ball in balls}
                 for (x, y), said in cells.items():
                     self.assertEqual(said, (board[x][y], sizes.get((x, y), 0)), f"{x, y} of\n{model.text(board)}")
                     if said != before[x, y]:
@@ -85,6 +88,12 @@ class Accessible(Case):
             reader.press(reader.find("notification", "Terminé"))
             wait_for("the panel gone", lambda: reader.listen() or not any("Terminé" in it.name for it in reader.all()))
             self.assertEqual(reader.board(), board)
+            self.assertEqual([(role_of(it), it.name) for it in reader.all()], [
+                ("frame", "Zampotine"), ("table", "Plateau, aucun groupe"), ("filler", ""), ("panel", "Niveau"),
+                *[("radio button", f"{colours} couleurs") for colours in range(2, 7)], ("text", "Colonnes"),
+                ("text", "Lignes"), ("check box", "Activer le son"), ("label", f"Score à battre: {score}"),
+                ("button", "Zéro"), ("label", f"{score} points"), ("notification", move), ("button", "Nouvelle"),
+                ("button", "Aide"), ("button", "Quitter")])
             self.assertEqual(self.said_of(reader, "button"), {
                 "Nouvelle": ("Recommencer une partie", "F2"), "Quitter": ("Quitter la partie", "Ctrl+Q"),
                 "Zéro": ("Remettre à zéro le meilleur score de ce niveau de difficulté.", "Ctrl+Del"),

@@ -32,14 +32,15 @@ class ScreenReader:
         self.atspi = importlib.import_module("pyatspi")
         self.atspi.setTimeout(1000 * PATIENCE, 1000 * PATIENCE)
         self.glib = importlib.import_module("gi.repository.GLib")
-        self.heard = []  # announcements, and cells that got the focus or changed
+        self.heard = []  # announcements, and cells or tables that got the focus or changed
         self.atspi.Registry.registerEventListener(self._hear, "object:state-changed:showing",
                                                   "object:state-changed:focused",
                                                   "object:property-change:accessible-name")
 
     def _hear(self, event):
         with contextlib.suppress(self.glib.Error):  # it may be gone by now
-            if (event.detail1 or "name" in event.type) and event.source.getRoleName() in ("notification", "table cell"):
+            role = event.source.getRoleName()
+            if (event.detail1 or "name" in event.type) and role in ("notification", "table", "table cell"):
                 self.heard.append(("now: " if "name" in event.type else "") + event.source.name)
 
     def listen(self):

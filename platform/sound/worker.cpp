@@ -64,13 +64,13 @@ bool isStillWanted(SoundMailbox& mailbox) {
     return !isGivenUp(*mailbox.request);
 }
 
-/// Plays the samples if the caller still waits. Returns the device that is open afterwards, or 0 if none is.
+/// Plays the samples if the caller still waits. Returns the device that is open afterwards, if any.
 SoundDevice play(SoundMailbox& mailbox, const Samples& samples, SoundDevice device) {
     if (samples.empty() || !extendDeadline(mailbox, playingTime(samples.size()))) {
         return device;
     }
     device = openSoundDevice(device);
-    if (device != 0 && isStillWanted(mailbox)) {
+    if (device.number != 0 && isStillWanted(mailbox)) {
         playThrough(device, samples);
     }
     return device;
@@ -96,9 +96,9 @@ void serveSounds(const std::shared_ptr<SoundMailbox>& mailbox, const std::vector
     static std::mutex onlyOne;
     const std::lock_guard lock(onlyOne);
     blockSignals();
-    SoundDevice device = 0;
+    SoundDevice device;
     while (true) {
-        switch (nextOrder(*mailbox, device != 0, closeAfter)) {
+        switch (nextOrder(*mailbox, device.number != 0, closeAfter)) {
             case Order::play:
                 // The name is read without the lock. The caller does not change the name until the worker has cleared
                 // the request.
@@ -110,7 +110,7 @@ void serveSounds(const std::shared_ptr<SoundMailbox>& mailbox, const std::vector
                 break;
             case Order::close:
                 closeSoundDevice(device);
-                device = 0;
+                device = {};
                 break;
             case Order::stop:
                 closeSoundDevice(device);

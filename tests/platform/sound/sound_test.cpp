@@ -51,7 +51,7 @@ struct SoundTest : testing::Test {
     }
     ~SoundTest() override { fs::remove_all(folder); }
 
-    /// The device from now on. SDL's disk driver records to a file, here 20 times faster than it is played.
+    /// The device from now on. SDL's disk driver records to a file, here 5 times faster than it is played.
     static void useDevice(const char* driver, const fs::path& recording = {}) {
         setenv("SDL_AUDIODRIVER", driver, 1);
         setenv("SDL_DISKAUDIOFILE", recording.c_str(), 1);
@@ -86,7 +86,7 @@ TEST_F(SoundTest, PlaysForTheLengthOfTheSoundAndLeavesSignalsAlone) {
     useDevice("dummy");
     const auto begin = Clock::now();
     sound->play("long.wav");
-    EXPECT_GE(Clock::now() - begin, 600ms + 46ms) << "with the two buffers that follow the empty queue";
+    EXPECT_GE(Clock::now() - begin, 600ms + 11ms) << "with the two buffers that follow the empty queue";
 
     struct sigaction action {};
     ASSERT_EQ(sigaction(SIGTERM, nullptr, &action), 0);

@@ -2,12 +2,16 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-"""Checks that players with normal colour vision or dichromacy can tell the six balls apart.
+"""Checks that all players can tell the six balls from each other and from the steel blue field behind them.
 
-Prints a table for each folder of pictures. The table has the colour difference (CIEDE2000) of every pair of balls, by
-mean colour and by dominant colour, for normal sight and for three simulated kinds of dichromacy. The smallest
-difference follows the table. The exit status is 1 if a difference is less than LEAST_DIFFERENCE, or if the formula
-misses a published value.
+Prints a table for each folder of pictures. Every picture is measured as it looks on the field. The table has:
+- the colour difference (CIEDE2000) of every two balls, and of every ball and the field, by mean colour and by dominant
+  colour, for normal sight and for three simulated kinds of dichromacy; at least LEAST_DIFFERENCE
+- for players who see no hues, the lightness (CIE L*) of every ball, and its step from the next darker ball; at least
+  LEAST_STEP
+- the lightness of every ball's rim, and its contrast to the field; at least LEAST_CONTRAST
+A lightness is taken both as the mean L* of the pixels and as the L* of their mean luminance. The exit status is 1 if a
+figure is less than its bound, or if the formula misses a published value.
 
 Usage: colour_table.py [PICTURES_FOLDER...]
 Without an argument, the folder is assets/pictures.
@@ -20,6 +24,9 @@ import numpy as np
 from PIL import Image
 
 LEAST_DIFFERENCE = 10.0
+LEAST_STEP = 5.0
+LEAST_CONTRAST = 15.0
+FIELD = np.array([128, 160, 192]) / 255
 BALLS = {"ir": "red", "ib": "blue", "iv": "green", "ij": "yellow", "ip": "magenta", "ig": "slate"}
 PICTURES = pathlib.Path(__file__).resolve().parent / "pictures"
 
@@ -79,17 +86,36 @@ def ciede2000(one, other):
     return np.sqrt((dl / sl) ** 2 + (dc / sc) ** 2 + (dh / sh) ** 2 + rt * dc / sc * dh / sh)
 
 
-def ball_colours(path):
-    """The mean and the dominant colour of the pixels that are mostly opaque, each channel from 0 to 1.
+def ball_pixels(path):
+    """The pixels of a ball as they look on the field, and those of its rim; each channel from 0 to 1.
+
+    The ball consists of the pixels that are mostly opaque. The rim consists of those that have a neighbour above,
+    below, to the left or to the right outside of the ball.
+    """
+    picture = np.array(Image.open(path).convert("RGBA")) / 255
+    alpha = picture[:, :, 3:]
+    shown = alpha * picture[:, :, :3] + (1 - alpha) * FIELD
+    ball = alpha[:, :, 0] > 0.5
+    around = np.pad(ball, 1)
+    inside = around[:-2, 1:-1] & around[2:, 1:-1] & around[1:-1, :-2] & around[1:-1, 2:]
+    return shown[ball], shown[ball & ~inside]
+
+
+def mean_and_dominant(pixels):
+    """The mean and the dominant colour of the pixels.
 
     Each channel is divided into eight ranges, so there are 8 x 8 x 8 bins. The dominant colour is the mean of the
     fullest bin.
     """
-    pixels = np.array(Image.open(path).convert("RGBA")).reshape(-1, 4)
-    pixels = pixels[pixels[:, 3] > 127, :3]
-    bins, members, counts = np.unique(pixels // 32, axis=0, return_inverse=True, return_counts=True)
-    dominant = pixels[members.reshape(-1) == counts.argmax()]
-    return pixels.mean(axis=0) / 255, dominant.mean(axis=0) / 255
+    bins = np.round(pixels * 255) // 32
+    _, members, counts = np.unique(bins, axis=0, return_inverse=True, return_counts=True)
+    return pixels.mean(axis=0), pixels[members.reshape(-1) == counts.argmax()].mean(axis=0)
+
+
+def lightness(pixels):
+    """The mean L* of the pixels, and the L* of their mean luminance."""
+    rgb = linear(pixels)
+    return np.array([np.mean([lab(pixel)[0] for pixel in rgb]), lab(rgb.mean(axis=0))[0]])
 
 
 def main():
@@ -98,13 +124,18 @@ def main():
             if abs(ciede2000(*pair) - expected) > 5e-5:
                 sys.exit(f"ciede2000{pair} is {ciede2000(*pair):.4f}, but the published value is {expected}")
 
-    return int(min(map(least_difference, sys.argv[1:] or [PICTURES])) < LEAST_DIFFERENCE)
+    return int(not all([check(pathlib.Path(folder)) for folder in sys.argv[1:] or [PICTURES]]))
 
 
-def least_difference(folder):
-    """Prints the table of one folder of pictures, and returns the smallest difference in the table."""
+def check(folder):
+    """Prints the table of one folder of pictures, and returns whether every figure reaches its bound."""
     print(folder)
-    colours = {name: ball_colours(next(pathlib.Path(folder).glob(f"{file}.*"))) for file, name in BALLS.items()}
+    balls = {name: ball_pixels(next(folder.glob(f"{file}.*"))) for file, name in BALLS.items()}
+    return all([check_colours(balls), check_lightness(balls)])
+
+
+def check_colours(balls):
+    colours = {name: mean_and_dominant(pixels) for name, (pixels, _) in balls.items()} | {"field": (FIELD, FIELD)}
     least = np.inf
     for sight, matrix in SIGHTS.items():
         print(f"{sight:18}    mean  dominant")
@@ -115,7 +146,22 @@ def least_difference(folder):
             print(f"  {one + ' - ' + other:16}  {mean:6.1f}  {dominant:8.1f}{low}")
             least = min(least, mean, dominant)
     print(f"smallest difference: {least:.1f}")
-    return least
+    return least >= LEAST_DIFFERENCE
+
+
+def check_lightness(balls):
+    field = lightness(FIELD[np.newaxis])
+    print(f"lightness (field {field[0]:.1f})       ball          step           rim      contrast")
+    good, darker = True, -np.inf
+    for (name, (_, rim)), light in sorted(((ball, lightness(ball[1][0])) for ball in balls.items()),
+                                          key=lambda ball: ball[1][0]):
+        step, rim = light - darker, lightness(rim)
+        contrast = abs(rim - field)
+        low = "  too close" if min(step) < LEAST_STEP or min(contrast) < LEAST_CONTRAST else ""
+        print(f"  {name:16}", *(f"{mean:6.1f} {luminance:6.1f}" for mean, luminance in (light, step, rim, contrast)),
+              low)
+        good, darker = good and not low, light
+    return good
 
 
 if __name__ == "__main__":

@@ -52,12 +52,14 @@ PIECES
 render about 413 344 | convert png:- -alpha off -type TrueColor BMP3:pictures/about.bmp
 
 # The help icon is shown on the steel blue background. The window icon is shown on any background, so its edges are not
-# blended. The palette of the window icon is chosen by hand: red, yellow and blue from dark to light, and white.
+# blended. It has too few colours for shadows and reflections. Its palette is chosen by hand: red, yellow and blue from
+# dark to light, and white.
 render help 32 32 | cut_out 16 >"$work/help.png"
-convert -size 1x1 xc:'#8b0002' xc:'#b60008' xc:'#db000f' xc:'#ee4a2c' xc:'#ffb3a6' \
-    xc:'#cd8300' xc:'#f0b400' xc:'#ffe000' xc:'#fff3a0' \
-    xc:'#190089' xc:'#0a24b6' xc:'#063cde' xc:'#2b78e4' xc:'#a9c9f7' xc:'#ffffff' xc:none +append "$work/palette.png"
-render zampotine 32 32 |
+convert -size 1x1 xc:'#8c0208' xc:'#bc0410' xc:'#ec0818' xc:'#f8604a' xc:'#ffb8ac' \
+    xc:'#c07a00' xc:'#e8ac08' xc:'#ffde04' xc:'#fff3a0' \
+    xc:'#0a128c' xc:'#0a28bc' xc:'#0a3ce0' xc:'#3a78ec' xc:'#a9c9f7' xc:'#ffffff' xc:none +append "$work/palette.png"
+echo '.shadow, .reflection { display: none }' >"$work/plain.css"
+render zampotine 32 32 "$work/plain.css" |
     convert png:- -channel A -threshold 50% +channel +dither -remap "$work/palette.png" "$work/zampotine.png"
 for name in help zampotine; do
     icotool --create --output "pictures/$name.ico" "$work/$name.png"

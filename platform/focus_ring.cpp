@@ -21,6 +21,25 @@ bool hasRing(const QWidget* control) {
            qobject_cast<const QLineEdit*>(control) != nullptr || qobject_cast<const Label*>(control) != nullptr;
 }
 
+class Ring : public QFocusFrame {
+  public:
+    explicit Ring(QWidget& control) : QFocusFrame(control.window()) { setWidget(&control); }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        // The text of a label is at the top of the label, so its ring is higher.
+        const bool isLabel = qobject_cast<Label*>(widget()) != nullptr;
+        const QRectF ring = rect().adjusted(0, isLabel ? 0 : 2, 0, isLabel ? -5 : -2);
+        constexpr double thickness = 1.5;
+        constexpr double inset = thickness / 2;
+        constexpr double rounding = 3;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(Qt::black, thickness));
+        painter.drawRoundedRect(ring.adjusted(inset, inset, -inset, -inset), rounding, rounding);
+    }
+};
+
 // Knows which device the player used last, in all windows: a window that a key has opened has a ring from the start.
 class FocusRing : public QObject {
   public:
@@ -44,27 +63,18 @@ class FocusRing : public QObject {
     void surround(QWidget*, QWidget* focused) {
         delete ring;
         if (usesKeys && hasRing(focused)) {
-            ring = new QFocusFrame(focused->window());
-            ring->setWidget(focused);
+            ring = new Ring(*focused);
         }
     }
 
     bool usesKeys = false;
-    QPointer<QFocusFrame> ring;
+    QPointer<Ring> ring;
 };
 
 }  // namespace
 
 void showFocusRing() {
     new FocusRing;
-}
-
-void drawFocusRing(QPainter& painter, const QRect& area) {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::black, 1.5));
-    painter.drawRoundedRect(QRectF(area).adjusted(0.75, 0.75, -0.75, -0.75), 3, 3);
-    painter.restore();
 }
 
 }  // namespace platform

@@ -3,20 +3,17 @@
 
 #pragma once
 
-class QPainter;
-class QRect;
+#include <QSize>
 
 namespace platform {
 
-/// Distance from the edge of a control to the outer edge of its focus ring, in layout pixels.
-inline constexpr int focusRingWidth = 2;
+/// The area of a focus ring is the area of its control with this margin at the left and right, and at the top and
+/// bottom, in layout pixels.
+inline constexpr QSize focusRingMargin{2, 4};
 
 /// From now on, a ring surrounds the control that has the keyboard focus, if it is an option, a check box, a text box
 /// or a label. The ring appears when the player presses a key, and disappears when the player presses a mouse button.
 /// Call it once, after the application has been created.
 void showFocusRing();
-
-/// Draws a focus ring. Its outer edge is the edge of `area`, in layout pixels.
-void drawFocusRing(QPainter& painter, const QRect& area);
 
 }  // namespace platform

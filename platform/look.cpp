@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QProxyStyle>
 #include <QStyleHints>
-#include <QStyleOption>
 #include <QToolTip>
 
 #include "platform/focus_ring.h"
@@ -33,8 +32,9 @@ class Style : public QProxyStyle {
             case PM_ExclusiveIndicatorHeight:
                 return 13;
             case PM_FocusFrameHMargin:
+                return focusRingMargin.width();
             case PM_FocusFrameVMargin:
-                return focusRingWidth;
+                return focusRingMargin.height();
             default:
                 return QProxyStyle::pixelMetric(metric, option, widget);
         }
@@ -42,16 +42,13 @@ class Style : public QProxyStyle {
 
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* result) const override {
-        // Without this, the parent of a control would cut off the ring at its own edge.
-        return hint == SH_FocusFrame_AboveWidget ? 1 : QProxyStyle::styleHint(hint, option, widget, result);
-    }
-
-    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                     const QWidget* widget) const override {
-        if (element == CE_FocusFrame) {
-            drawFocusRing(*painter, option->rect);
-        } else {
-            QProxyStyle::drawControl(element, option, painter, widget);
+        switch (hint) {
+            case SH_FocusFrame_AboveWidget:
+                return 1;  // The parent of a control would cut off the ring at its own edge.
+            case SH_FocusFrame_Mask:
+                return 0;  // The ring around a label overlaps the label.
+            default:
+                return QProxyStyle::styleHint(hint, option, widget, result);
         }
     }
 

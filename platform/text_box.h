@@ -9,10 +9,10 @@ class QLineEdit;
 
 namespace platform {
 
-/// A one-line text box without a context menu. Its keys for editing come before the shortcuts of the window. A QLineEdit
-/// loads fonts when it is created. So the text box creates its QLineEdit only at the first painting, when the window is
-/// already on the screen. The QLineEdit then lies in front of the text box, as a child of the same parent, so that screen
-/// readers find one box instead of a box in a box.
+/// A one-line text box without a context menu. Its keys for editing come before the shortcuts of the window. A
+/// QLineEdit loads fonts when it is created. So the text box creates its QLineEdit only at the first painting, when the
+/// window is already on the screen. The QLineEdit then lies in front of the text box, as a child of the same parent, so
+/// that screen readers find one box instead of a box in a box.
 class TextBox : public QWidget {
     Q_OBJECT
 

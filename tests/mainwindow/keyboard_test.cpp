@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QFocusFrame>
 
 #include "tests/mainwindow/world.h"
 
@@ -102,9 +103,21 @@ TEST(Keyboard, PressOnTheBoardAndEnterOrEscapeInASizeBoxGiveItTheKeyboard) {
     world.key(Qt::CTRL | Qt::Key_Delete);
     EXPECT_EQ(world.box(1), "");
     EXPECT_EQ(world.text("Label4"), "4") << "a size box keeps its keys";
-    world.cells()->setFocus();
-    world.key(Qt::CTRL | Qt::Key_Delete);
-    EXPECT_EQ(world.text("Label4"), "0");
+}
+
+TEST(Keyboard, RingSurroundsTheFocusFromAKeyToAMousePress) {
+    KeyboardWorld world("rb rb");
+    const auto ringed = [&]() -> QWidget* {
+        const auto* ring = world.window->findChild<QFocusFrame*>();
+        return ring == nullptr || !ring->isVisible() ? nullptr : ring->widget();
+    };
+    QWidget* expected = nullptr;  // the board has its cursor
+    for (int tabs = 0; tabs < 5; ++tabs, expected = world.window->focusWidget()) {
+        EXPECT_EQ(ringed(), expected) << tabs << " tabs";
+        world.key(Qt::Key_Tab);
+    }
+    QTest::mousePress(world.control<QWidget>("Check1"), Qt::LeftButton);
+    EXPECT_EQ(ringed(), nullptr);
 }
 
 TEST(Keyboard, LetterKeysDealAndSwitchTheSoundAndAHeldKeyLeavesAboutOpen) {

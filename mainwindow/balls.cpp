@@ -91,6 +91,7 @@ void balls::createControls() {
 void balls::connectControls() {
     connect(c, &BoardWidget::pressed, this, &balls::c_MouseDown);
     connect(c, &BoardWidget::played, this, &balls::play);
+    connect(c, &BoardWidget::asked, this, &balls::playSoon);
     for (int i = 0; i < static_cast<int>(ImBTN.size()); ++i) {
         platform::onClick(*ImBTN[i], [this, i] { ImBTN_Click(i); });
         platform::onClick(*LabBtn[i], [this, i] { LabBtn_Click(i); });

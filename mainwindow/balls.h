@@ -86,6 +86,7 @@ class balls : public QWidget, private rules::Host {
     // press.cpp
     void c_MouseDown(rules::CellIndex i, const QMouseEvent& press);
     void play(rules::CellIndex i);
+    void playSoon(rules::CellIndex i);
     void run(Press press);
     // move_host.cpp
     void cellCleared(rules::CellIndex i) override;
@@ -134,7 +135,7 @@ class balls : public QWidget, private rules::Host {
     settings::BestScores bestScores;
     rules::Game game;
     Turns turns{[this](Request request) { std::visit([this](auto asked) { run(asked); }, request); }};
-    RemovalPace pace{1};
+    RemovalPace pace{1};  ///< of the current move
     PictureFrame frame;
     std::unique_ptr<about::About> About;  ///< null while the About window is closed
 

@@ -27,6 +27,16 @@ void balls::play(rules::CellIndex i) {
     }
 }
 
+void balls::playSoon(rules::CellIndex i) {
+    // The press is kept at once: later, another ball may be in the cell. The move takes time, so it starts later.
+    if (!turns.isMoving()) {
+        turns.begin();
+        QMetaObject::invokeMethod(
+            this, [this] { turns.end(); }, Qt::QueuedConnection);
+    }
+    play(i);
+}
+
 void balls::run(Press press) {
     const int group = rules::groupSize(game.board, press.cell);
     turns.begin();

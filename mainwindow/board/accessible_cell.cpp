@@ -3,7 +3,6 @@
 
 #include "mainwindow/board/accessible_cell.h"
 
-#include <QTimer>
 #include <QWindow>
 
 #include "mainwindow/board/board_widget.h"
@@ -117,18 +116,15 @@ QStringList AccessibleCell::actionNames() const {
 }
 
 void AccessibleCell::doAction(const QString& action) {
-    // The screen reader waits until doAction() returns. A move takes time, so it starts after the return.
-    QTimer::singleShot(0, &widget, [&board = widget, i = index, press = action == pressAction()] {
-        if (!board.isVisible() || !board.board().contains(i)) {
-            return;
-        }
-        if (press) {
-            emit board.played(i);
-        } else {
-            board.setFocus();
-            board.moveCursor(i);
-        }
-    });
+    if (!widget.isVisible() || !isValid()) {
+        return;
+    }
+    if (action == pressAction()) {
+        emit widget.asked(index);
+    } else {
+        widget.setFocus();
+        widget.moveCursor(index);
+    }
 }
 
 }  // namespace mainwindow

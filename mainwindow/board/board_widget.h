@@ -49,8 +49,10 @@ class BoardWidget : public QWidget {
   signals:
     /// The player pressed a mouse button on cell i.
     void pressed(rules::CellIndex i, const QMouseEvent& press);
-    /// The player pressed cell i with a key or a screen reader.
+    /// The player pressed cell i with a key.
     void played(rules::CellIndex i);
+    /// The player pressed cell i with a screen reader, which waits until the handler returns.
+    void asked(rules::CellIndex i);
     /// The cursor has moved, or the board has received the keyboard focus.
     void cursorMoved();
     /// New balls were dealt, or the balls have fallen after a move.

@@ -153,7 +153,7 @@ class Player:
         line = self.balls_left_line()
         self.act(centre(cell), "click", button)
         self.expect_board(after, cause)
-        # The line changes at the very end of a move: before that, a next press would be dropped.
+        # The line changes at the very end of a move: before that, a next press would wait.
         wait_for(f"another number of balls after {cause}", lambda: self.balls_left_line() != line)
         return after
 

@@ -40,7 +40,7 @@ void Turns::perform(Request request) {
         run(request);
     } else if (!isPress(request) || std::ranges::count_if(kept, isPress) < mostPresses) {
         closing = closing || isQuit(request);
-        kept.push_back(request);
+        kept.insert(std::ranges::find(kept, Request(Command::help)), request);
     }
 }
 

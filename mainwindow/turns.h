@@ -40,8 +40,9 @@ class Turns {
 
     /// Begins a move. Call it only if isMoving() is false.
     void begin() { moving = true; }
-    /// Ends the move and carries out the requests that waited for its end, in the order in which they were made. If the
-    /// player has asked to quit, the presses among them are dropped.
+    /// Ends the move and carries out the requests that waited for its end, in the order in which they were made. The
+    /// help window hides the board, so it opens after the other requests. If the player has asked to quit, the presses
+    /// are dropped.
     void end();
 
     /// Carries out a request at once, or at the end of the current move if there is one. When the quit command runs, it

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFocusFrame>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
@@ -19,6 +20,11 @@ namespace {
 bool hasRing(const QWidget* control) {
     return qobject_cast<const QAbstractButton*>(control) != nullptr ||
            qobject_cast<const QLineEdit*>(control) != nullptr || qobject_cast<const Label*>(control) != nullptr;
+}
+
+// A player who uses the mouse may press Alt to change to another window.
+bool isModifier(const QKeyEvent& event) {
+    return (event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock) || event.key() == Qt::Key_AltGr;
 }
 
 class Ring : public QFocusFrame {
@@ -49,8 +55,9 @@ class FocusRing : public QObject {
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) {
-            const bool isKey = event->type() == QEvent::KeyPress;
+        // Qt sends ShortcutOverride for every key, but KeyPress only for a key that is no shortcut.
+        const bool isKey = event->type() == QEvent::ShortcutOverride && !isModifier(*static_cast<QKeyEvent*>(event));
+        if (isKey || event->type() == QEvent::MouseButtonPress) {
             if (isKey != usesKeys) {
                 usesKeys = isKey;
                 surround(nullptr, QApplication::focusWidget());

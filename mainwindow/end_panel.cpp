@@ -6,6 +6,7 @@
 #include <QAction>
 
 #include "mainwindow/balls.h"
+#include "mainwindow/board/board_widget.h"
 #include "platform/label.h"
 #include "platform/look.h"
 #include "rules/random.h"
@@ -38,6 +39,7 @@ void balls::ShowEndPanel() {
 
 void balls::Frame1_Click() {
     hideEndPanel();
+    c->setFocus(Qt::MouseFocusReason);
 }
 
 void balls::hideEndPanel() {

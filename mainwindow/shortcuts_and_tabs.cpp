@@ -29,7 +29,7 @@ void balls::connectKeys() {
     on(this, Qt::CTRL | Qt::Key_S, [this] { Check1->toggle(); });
     // Qt ignores the shortcuts of Frame1 while Frame1 is hidden.
     on(Frame1, Qt::Key_Escape, [this] {
-        Frame1_Click();
+        hideEndPanel();
         returnToBoard();
     });
     // Only the board's own keys close the panel: in a size box, Space writes a blank, and on an option it selects.

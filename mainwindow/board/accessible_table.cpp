@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 #include <vector>
 
 #include <QAccessible>
@@ -48,8 +49,8 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
         for (const auto& [i, cell] : cells) {
             cell->reportName(groups[i]);
         }
-        const QString before = lastRead;
-        if (text(QAccessible::Name) != before) {
+        const bool hasGroup = rules::hasGroup(board);
+        if (std::exchange(hadGroup, hasGroup) != hasGroup) {
             QAccessibleEvent event(this, QAccessible::NameChanged);
             QAccessible::updateAccessibility(&event);
         }
@@ -63,8 +64,7 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
         if (kind != QAccessible::Name) {
             return QAccessibleWidget::text(kind);
         }
-        lastRead = rules::hasGroup(boardWidget.board()) ? u"Plateau"_s : u"Plateau, aucun groupe"_s;
-        return lastRead;
+        return rules::hasGroup(boardWidget.board()) ? u"Plateau"_s : u"Plateau, aucun groupe"_s;
     }
     int childCount() const override { return static_cast<int>(boardWidget.board().cells.size()); }
     QAccessibleInterface* child(int index) const override {
@@ -119,7 +119,7 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
 
     BoardWidget& boardWidget;
     mutable std::map<rules::CellIndex, AccessibleCell*> cells;
-    mutable QString lastRead;  // the name
+    bool hadGroup = true;  // before the last change
     int columnsBefore = boardWidget.board().NbCol;
     int rowsBefore = boardWidget.board().NbLig;
 };

@@ -117,7 +117,6 @@ void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
 void BoardWidget::mousePressEvent(QMouseEvent* event) {
     if (const auto cell = cellAt(shownBoard, platform::pixelUnder(*event))) {
         cursor = shownBoard.positionOf(*cell);
-        emit cursorMoved();
         emit pressed(*cell, *event);
     } else {
         event->ignore();

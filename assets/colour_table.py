@@ -135,6 +135,7 @@ def check(folder):
 
 
 def check_colours(balls):
+    """Prints the colour differences, and returns whether the smallest one is large enough."""
     colours = {name: mean_and_dominant(pixels) for name, (pixels, _) in balls.items()} | {"field": (FIELD, FIELD)}
     least = np.inf
     for sight, matrix in SIGHTS.items():
@@ -150,6 +151,7 @@ def check_colours(balls):
 
 
 def check_lightness(balls):
+    """Prints the lightness of the balls and rims, and returns whether all steps and contrasts are large enough."""
     field = lightness(FIELD[np.newaxis])
     print(f"lightness (field {field[0]:.1f})       ball          step           rim      contrast")
     good, darker = True, -np.inf

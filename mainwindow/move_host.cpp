@@ -53,7 +53,8 @@ void balls::PlayWave(std::string_view file) {
     if (Check1->isChecked() && !turns.isClosing()) {
         surroundings.sound.play(std::string(file));
     }
-    // Input may have arrived during the sound. Handle it now: later, it could close the end-of-game panel.
+    // Input may have arrived during the sound. Handle it now, on the board that the player saw: later, another ball may
+    // be in the pressed cell, and a key could close the end-of-game panel.
     platform::yield();
 }
 

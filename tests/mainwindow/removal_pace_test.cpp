@@ -3,9 +3,6 @@
 
 #include "mainwindow/removal_pace.h"
 
-#include <algorithm>
-#include <vector>
-
 #include <gtest/gtest.h>
 
 namespace mainwindow {

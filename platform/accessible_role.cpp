@@ -119,10 +119,14 @@ QAccessibleInterface* create(const QString&, QObject* object) {
 
 void setAccessibleRole(QWidget& control, AccessibleRole role) {
     QAccessible::installFactory(create);  // Qt installs the same function only once
+    // Qt may already have created an interface without the role. It creates one when the text of a label is set, even
+    // if no screen reader is active; this one would read only the label's own text. After the deletion, Qt creates an
+    // interface with the role. Without need, nothing is deleted: with Qt 6.4, some memory is then never freed.
+    const bool isReplaced = QAccessible::isActive() || !role.labels.isEmpty();
     new RoleOfParent(control, std::move(role));
-    // Qt may already have created an interface without the role: setting the text of a label creates one, even if no
-    // screen reader is active. After its deletion, Qt creates one with the role.
-    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&control)));
+    if (isReplaced) {
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&control)));
+    }
 }
 
 void announce(QWidget& notification) {

@@ -23,13 +23,14 @@ TEST(Turns, KeptRequestsRunInOrderAfterTheMoveAndOnesThatAKeptNewGameKeepsAfterT
         }
     });
     turns.begin();
+    turns.perform(help);
     turns.perform(Press{1});
     turns.perform(newGame);
     turns.perform(Press{2});
     turns.perform(reset);
     EXPECT_TRUE(ran.empty() && turns.isMoving() && !turns.isClosing());
     turns.end();
-    EXPECT_EQ(ran, (Requests{Press{1}, newGame, reset, quit})) << "quitting drops presses and what comes after it";
+    EXPECT_EQ(ran, (Requests{Press{1}, newGame, reset, quit})) << "help is last; quitting drops presses and what waits";
     turns.begin();
     turns.perform(reset);
     turns.end();

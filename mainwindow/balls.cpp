@@ -33,7 +33,6 @@ balls::balls(Surroundings given)
       bestScores(surroundings.store, rules::levels),
       c(new BoardWidget(*this, game.board)) {
     makeAccessible(*c);
-    setWindowTitle(u"Zampotine"_s);
     platform::keepSizeOnEveryScreen(*this);
     createControls();
     connectControls();
@@ -41,6 +40,8 @@ balls::balls(Surroundings given)
     connectKeys();
     orderTabStops();
     describeControls();
+    // With Qt 6.8, setting the title makes Qt create what screen readers find, so the roles must be known before.
+    setWindowTitle(u"Zampotine"_s);
     Form_Load();
 }
 

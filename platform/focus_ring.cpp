@@ -57,11 +57,10 @@ class FocusRing : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override {
         // Qt sends ShortcutOverride for every key, but KeyPress only for a key that is no shortcut.
         const bool isKey = event->type() == QEvent::ShortcutOverride && !isModifier(*static_cast<QKeyEvent*>(event));
-        if (isKey || event->type() == QEvent::MouseButtonPress) {
-            if (isKey != usesKeys) {
-                usesKeys = isKey;
-                surround(nullptr, QApplication::focusWidget());
-            }
+        const bool isMouse = event->type() == QEvent::MouseButtonPress;
+        if ((isKey && !usesKeys) || (isMouse && usesKeys)) {
+            usesKeys = isKey;
+            surround(nullptr, QApplication::focusWidget());
         }
         return QObject::eventFilter(watched, event);
     }

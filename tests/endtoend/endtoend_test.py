@@ -75,9 +75,7 @@ class EndToEnd(Case):
         for balls_left, factor, best in ((1, 1, 0), (0, 2, 1000000)):
             settings = f"Col=8\nLig=14\nSon=0\n0={best}\n"
             with self.subTest(balls_left=balls_left), self.player(settings) as player:
-                board = player.board()
-                while not (presses := model.game_ending_with(balls_left, board)):
-                    board = player.deal()
+                board, presses = player.deal_game(balls_left)
                 score = 0
                 for cell in presses[:-1]:
                     press = f"{cell} on\n{model.text(board)}"
@@ -100,8 +98,7 @@ class EndToEnd(Case):
 
     def test_drags(self):
         with self.player("Col=25\nLig=20\nSon=0\n") as player:
-            board = player.board()
-            board = player.play(board, min(model.groups(board)[-1]))
+            board, _ = player.play_largest(player.board())
             hole = next((x, 0) for x, column in enumerate(board) if column[0] == ".")
             follows = {"background": (200, 445), "hole": centre(hole)}
             follows |= {name: player.in_panel(place) for name, place in {

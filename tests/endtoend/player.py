@@ -157,10 +157,22 @@ class Player:
         wait_for(f"another number of balls after {cause}", lambda: self.balls_left_line() != line)
         return after
 
+    def play_largest(self, board):
+        """Plays the largest group. Returns the board after it and the points for it."""
+        balls = model.groups(board)[-1]
+        return self.play(board, min(balls)), model.points(len(balls))
+
     def deal(self):
         self.click(NEW_GAME)
         self.catch_up()
         return self.board()
+
+    def deal_game(self, balls_left):
+        """Deals until a game can end with this number of balls. Returns the board and the presses of that game."""
+        board = self.board()
+        while not (presses := model.game_ending_with(balls_left, board)):
+            board = self.deal()
+        return board, presses
 
     def catch_up(self):
         """Returns once the program has handled all that was done so far."""

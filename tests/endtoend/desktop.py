@@ -20,11 +20,9 @@ WINDOW_MANAGER = """<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/>
 
 def wait_for(what, condition):
     deadline = time.monotonic() + PATIENCE
-    is_late = False
     while not (value := condition()):
-        if is_late:
+        if time.monotonic() > deadline:
             raise AssertionError(f"{what}: nothing of it within {PATIENCE} s")
-        is_late = time.monotonic() > deadline
         time.sleep(0.01)
     return value
 
@@ -38,9 +36,7 @@ class Desktop:
         self.loudspeaker = home / "loudspeaker"  # a file that grows at the speed of the sound
         self.environment = {
             **os.environ,
-            "HOME": str(home),
-            "XDG_CONFIG_HOME": str(home),
-            "XDG_RUNTIME_DIR": str(home),
+            **dict.fromkeys(("HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"), str(home)),
             "PATH": f"{home}:{os.environ['PATH']}",
             "DBUS_SESSION_BUS_ADDRESS": "disabled:",
             "GSETTINGS_BACKEND": "memory",
@@ -67,11 +63,11 @@ class Desktop:
             self.start("openbox", "--config-file", home / "openbox.xml", "--startup", "touch ready")
             wait_for("the window manager", (home / "ready").exists)
 
-    def start(self, *command, input=None, output=None, errors=None):
+    def start(self, *command, output=None, errors=None):
         """A process that is ended with the stack, and by the kernel should this process be killed."""
         process = self._stack.enter_context(subprocess.Popen(
             ["setpriv", "--pdeathsig", "TERM", *command], env=self.environment, cwd=self.home,
-            stdin=input, stdout=output, stderr=errors))
+            stdout=output, stderr=errors))
         self._stack.callback(process.terminate if command[0] == "Xvfb" else process.kill)
         return process
 
@@ -95,8 +91,8 @@ class Desktop:
         """Those of the program that show."""
         return self.xdotool("search", "--onlyvisible", "^Zampotine$").split()
 
-    def looks(self, window):
-        """The pixels of a window with bouncing balls, in many different looks."""
+    def still(self, window):
+        """The pixels as they are in most looks at a window with bouncing balls: what lies under the balls."""
         left, top, width, height = self.geometry(window)
         looks = {}  # each counts once, however long the program stands still
 
@@ -107,11 +103,7 @@ class Desktop:
             return len(looks) > 16
 
         wait_for("bouncing balls", enough)
-        return list(looks.values())
-
-    def still(self, window):
-        """The pixels as they are in most looks: what lies under bouncing balls."""
-        return np.median(self.looks(window), 0)
+        return np.median(list(looks.values()), 0)
 
     def wait_for_focus(self):
         wait_for("the keyboard's focus", lambda: "Zampotine" in self.xdotool("getwindowfocus", "getwindowname"))

@@ -45,8 +45,7 @@ def reach_about(player):
 
 
 def reach_end_panel(player):
-    while not (presses := model.game_ending_with(1, board := player.board())):
-        player.deal()
+    board, presses = player.deal_game(1)
     score = 0
     for cell in presses[:-1]:
         score += model.points(len(model.group(board, cell)))

@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 
 """A player at the running program: sees its window as pixels and works it with pointer and keys."""
+import functools
 import pathlib
 import re
 
@@ -26,15 +27,14 @@ HELP_ICON = (89, 227)
 MAIL, SITE, BACK = (77, 315), (208, 314), (340, 313)
 
 
-def pixels_of(content, folder=PICTURES, side=CELL):
+@functools.cache
+def pixels_of(content, folder, side):
+    """The pixels of a cell, with its ball from the picture in this folder."""
     cell = Image.new("RGBA", (side, side), FIELD)
     if content != ".":
         with Image.open(next(folder.glob(f"i{content}.[gp]*"))) as ball:
             cell.alpha_composite(ball.convert("RGBA"))
-    return np.array(cell.convert("RGB"))
-
-
-CELL_PIXELS = {content: pixels_of(content) for content in "." + COLOURS}
+    return np.array(cell.convert("RGB")).astype(np.int16)
 
 
 def centre(cell):
@@ -44,9 +44,10 @@ def centre(cell):
 class Player:
     AFTER_POINTING = BEFORE_DRAGGING = ()  # words of xdotool
 
-    def __init__(self, desktop, program, settings=None):
-        """Starts the program, over a settings file with these lines if any are given."""
+    def __init__(self, desktop, program, settings=None, scale=1):
+        """Starts the program, with these lines in its settings file if any are given."""
         self.desktop = desktop
+        self.scale = scale
         self.file = desktop.home / (program.stem + ".ini")
         if settings is not None:
             self.file.write_text("[init]\n" + settings)
@@ -75,24 +76,26 @@ class Player:
 
     def board_size(self):
         _, _, width, height = self.geometry()
-        return (width - 238) // CELL, (height - 67) // CELL
+        return round((width / self.scale - 238) / CELL), round((height / self.scale - 67) / CELL)
 
     def board(self):
         """The board, with "?" where a cell shows neither a ball nor the field."""
         columns, rows = self.board_size()
-        pixels = self.look((BOARD, BOARD), (BOARD + CELL * columns, BOARD + CELL * rows))
-        cells = pixels.reshape(rows, CELL, columns, CELL, 3).transpose(2, 0, 1, 3, 4)
+        first, side = int(BOARD * self.scale + 0.5), round(CELL * self.scale)
+        pixels = self.look((first, first), (first + side * columns, first + side * rows))
+        cells = pixels.reshape(rows, side, columns, side, 3).transpose(2, 0, 1, 3, 4)
+        folder, tolerance = (PICTURES, 0) if self.scale == 1 else (self.desktop.home / str(self.scale), 2)
         shown = np.full((columns, rows), "?")
-        for content, picture in CELL_PIXELS.items():
-            shown[(cells == picture).all((2, 3, 4))] = content
+        for content in "." + COLOURS:
+            shown[(abs(cells - pixels_of(content, folder, side)) <= tolerance).all((2, 3, 4))] = content
         return tuple(map("".join, shown))
 
     def expect_board(self, expected, cause):
-        try:
-            wait_for("the board", lambda: self.board() == expected)
-        except AssertionError:
-            raise AssertionError(f"after {cause}\n\nmust come\n{model.text(expected)}\n\nbut there is\n"
-                                 f"{model.text(self.board())}") from None
+        wait_for(f"the board\n{model.text(expected)}\nafter {cause}", lambda: self.board() == expected)
+
+    def shows_panel(self):
+        """Whether the panel at the end of a game covers the board."""
+        return "?" in "".join(self.board())
 
     def in_panel(self, place):
         return place[0] + CELL * self.board_size()[0] + 40, place[1] + BOARD
@@ -105,12 +108,15 @@ class Player:
         return (self.look((x - 3, y - 3), (x + 4, y + 4)).sum(2) < 200).sum() > 4
 
     def act(self, *actions, window=None):
-        """Pointer and keys in the terms of xdotool, where a pair is a place in the window."""
+        """Pointer and keys in the terms of xdotool, where a pair is a place in the window at a scale of 1."""
         left, top, _, _ = self.geometry(window)
         words = []
         for action in actions:
-            move = isinstance(action, tuple) and ["mousemove", left + action[0], top + action[1], *self.AFTER_POINTING]
-            words += move or [action]
+            if isinstance(action, tuple):
+                x, y = (round(self.scale * length) for length in action)
+                words += ["mousemove", left + x, top + y, *self.AFTER_POINTING]
+            else:
+                words.append(action)
         self.desktop.xdotool(*words)
 
     def click(self, place):
@@ -124,6 +130,9 @@ class Player:
 
     def open_about(self, button=1):
         self.act(self.in_panel(HELP_ICON), "click", button)
+        return self.expect_about()
+
+    def expect_about(self):
         return self.expect_window("the About window", lambda window: window not in (None, self.window))
 
     def leave_about(self, about, *actions):
@@ -146,15 +155,21 @@ class Player:
         for box, typed in ((COLUMNS_BOX, columns), (ROWS_BOX, rows)):
             self.act(self.in_panel(box), "click", 1, "key", "ctrl+a", "type", "--", typed)
 
-    def play(self, board, cell, button=1):
-        """Presses a ball of a group, and returns the board after it once the move is over and right."""
-        after = model.without(board, model.group(board, cell))
-        cause = f"button {button} on {cell} of\n{model.text(board)}"
-        line = self.balls_left_line()
+    def press(self, cell, button=1):
         self.act(centre(cell), "click", button)
-        self.expect_board(after, cause)
+
+    def play(self, board, cell, button=1):
+        """Presses a ball of a group. Returns the board after it, once the move is over and right."""
+        after = model.without(board, model.group(board, cell))
+        move = f"button {button} on {cell} of\n{model.text(board)}"
+        line = self.balls_left_line()
+        self.press(cell, button)
+        if model.balls_left(after) > 1:
+            self.expect_board(after, move)
+        else:
+            wait_for(f"the panel at the end after {move}", self.shows_panel)
         # The line changes at the very end of a move: before that, a next press would wait.
-        wait_for(f"another number of balls after {cause}", lambda: self.balls_left_line() != line)
+        wait_for(f"another number of balls after {move}", lambda: self.balls_left_line() != line)
         return after
 
     def play_largest(self, board):
@@ -162,21 +177,45 @@ class Player:
         balls = model.groups(board)[-1]
         return self.play(board, min(balls)), model.points(len(balls))
 
-    def deal(self):
+    def start_new_game(self):
         self.click(NEW_GAME)
+
+    def deal(self):
+        self.start_new_game()
         self.catch_up()
         return self.board()
 
     def deal_game(self, balls_left):
         """Deals until a game can end with this number of balls. Returns the board and the presses of that game."""
-        board = self.board()
-        while not (presses := model.game_ending_with(balls_left, board)):
+        left = None
+        while left != balls_left:
             board = self.deal()
+            presses, left = model.game(board)
         return board, presses
+
+    def play_game(self, balls_left):
+        """Deals and plays a whole game. Returns its last board and the sum of the points of its moves."""
+        board, presses = self.deal_game(balls_left)
+        score = 0
+        for cell in presses:
+            score += model.points(len(model.group(board, cell)))
+            board = self.play(board, cell)
+        return board, score
 
     def catch_up(self):
         """Returns once the program has handled all that was done so far."""
         on = self.is_marked(SOUND_SWITCH)
         for state in (not on, on):
-            self.click(SOUND_SWITCH)
+            self.act("key", "ctrl+s")
             wait_for("the sound switch's mark", lambda: self.is_marked(SOUND_SWITCH) == state)
+
+
+class KeyboardPlayer(Player):
+    """Plays with keys. The pointer only hides the cursor of the board afterwards."""
+
+    def press(self, cell, button=1):
+        # The first key only shows the cursor.
+        self.act("key", "Up", "Home", "Prior", *cell[0] * ["Right"], *cell[1] * ["Down"], "space", (20, 20), (21, 20))
+
+    def start_new_game(self):
+        self.act("key", "F2")

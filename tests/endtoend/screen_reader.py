@@ -1,17 +1,25 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-"""A screen reader at the running program: knows its windows only by what they say of themselves."""
+"""A player who also knows the windows by what they tell a screen reader, and works them through it."""
 import contextlib
 import importlib
 import os
-import re
 import subprocess
 
+import model
 from desktop import PATIENCE, wait_for
+from player import Player
 
-COLOURS = {"rouge": "r", "bleue": "b", "verte": "v", "jaune": "j", "magenta": "p", "grise": "g", None: "."}
-CELL = re.compile(r"(?:boule (\w+)|case vide), ligne (\d+), colonne (\d+)(?:, groupe de (\d+))?")
+CONTENTS = {"r": "boule rouge", "b": "boule bleue", "v": "boule verte", "j": "boule jaune", "p": "boule magenta",
+            "g": "boule grise", ".": "case vide"}
+
+
+def names(board):
+    """What the cells say, row by row."""
+    sizes = {cell: f", groupe de {len(group)}" for group in model.groups(board) for cell in group}
+    return [f"{CONTENTS[content]}, ligne {y + 1}, colonne {x + 1}{sizes.get((x, y), '')}"
+            for y, row in enumerate(zip(*board)) for x, content in enumerate(row)]
 
 
 def role_of(control):
@@ -19,9 +27,9 @@ def role_of(control):
     return control.getRoleName().removeprefix("push ")
 
 
-class ScreenReader:
-    def __init__(self, desktop):
-        """To be there before the program starts."""
+class ScreenReader(Player):
+    def __init__(self, desktop, program, settings):
+        """Starts the screen reader, then the program."""
         bus = desktop.start("dbus-daemon", "--session", "--nofork", "--print-address", output=subprocess.PIPE)
         desktop.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()
         os.environ |= desktop.environment
@@ -32,62 +40,61 @@ class ScreenReader:
         self.atspi = importlib.import_module("pyatspi")
         self.atspi.setTimeout(1000 * PATIENCE, 1000 * PATIENCE)
         self.glib = importlib.import_module("gi.repository.GLib")
-        self.heard = []  # announcements, and cells or tables that got the focus or changed
+        self.heard = []  # announcements, and cells with the focus, new names of cells and table
         self.atspi.Registry.registerEventListener(self._hear, "object:state-changed:showing",
                                                   "object:state-changed:focused",
                                                   "object:property-change:accessible-name")
+        super().__init__(desktop, program, settings)
 
     def _hear(self, event):
         with contextlib.suppress(self.glib.Error):  # it may be gone by now
             role = event.source.getRoleName()
-            if (event.detail1 or "name" in event.type) and role in ("notification", "table", "table cell"):
-                self.heard.append(("now: " if "name" in event.type else "") + event.source.name)
+            if "name" in event.type and role in ("table", "table cell"):
+                self.heard.append(f"now: {event.source.name}")
+            elif event.detail1 and role in ("table cell", "notification"):
+                self.heard.append(event.source.name)
 
     def listen(self):
+        """All that was heard since the last press."""
         while self.glib.MainContext.default().iteration(False):
             pass
+        return self.heard
 
-    def wait_to_hear(self, *sentences):
-        def heard():
-            self.listen()
-            return all(sentence in self.heard for sentence in sentences)
-        wait_for(f"{sentences}, after {self.heard},", heard)
+    def wait_to_hear(self, sentence):
+        wait_for(f"{sentence}, after {self.heard},", lambda: sentence in self.listen())
 
-    def windows(self):
-        return [window for program in self.atspi.Registry.getDesktop(0) for window in program]
-
-    def all(self):
-        """All controls that show, cells excepted."""
-        def below(control):
-            yield control
-            if control.getRoleName() != "table":
-                for child in control:
-                    yield from below(child)
-        for window in self.windows():
-            yield from (it for it in below(window) if it.getState().contains(self.atspi.STATE_SHOWING))
+    def controls(self):
+        """All windows and controls that show, except cells."""
+        def shows(control):
+            return control.getState().contains(self.atspi.STATE_SHOWING) and role_of(control) != "table cell"
+        programs = self.atspi.Registry.getDesktop(0)
+        return [control for program in programs for control in self.atspi.findAllDescendants(program, shows)]
 
     def find(self, role, name=""):
         def found():
             self.listen()
             with contextlib.suppress(self.glib.Error, LookupError):
-                return next((it for it in self.all() if role_of(it) == role and name in it.name), None)
+                return next((it for it in self.controls() if role_of(it) == role and name in it.name), None)
         return wait_for(f"{role} {name}", found)
 
-    def press(self, control):
-        """Presses, and forgets what was heard before."""
+    def ask(self, control):
+        """Performs the control's first action, and forgets what was heard before."""
         self.heard.clear()
-        action = control.queryAction()
-        action.doAction([action.getName(k) for k in range(action.nActions)].index("Press"))
+        control.queryAction().doAction(0)
+
+    def said_of(self, control):
+        said = [control.name]
+        if role_of(control) in ("button", "link"):
+            said += [control.description, control.queryAction().getKeyBinding(0)]
+        if role_of(control) == "text":
+            said.append(control.queryText().getText(0, -1))
+        return f"{role_of(control)}: {', '.join(said)}"
 
     def cells(self):
-        """What all cells say, by their (column, row): content and size of the group."""
-        self.listen()
-        table = self.find("table", "Plateau")
-        said = [CELL.fullmatch(cell.name).groups() for cell in table]
-        return {(int(column) - 1, int(row) - 1): (COLOURS[colour], int(group or 0))
-                for colour, row, column, group in said}
+        return [cell.name for cell in self.find("table")]
 
-    def board(self):
-        cells = self.cells()
-        columns, rows = (max(place[axis] for place in cells) + 1 for axis in (0, 1))
-        return tuple("".join(cells[column, row][0] for row in range(rows)) for column in range(columns))
+    def press(self, cell, button=1):
+        self.ask(self.find("table").queryTable().getAccessibleAt(cell[1], cell[0]))
+
+    def start_new_game(self):
+        self.ask(self.find("button", "Nouvelle"))

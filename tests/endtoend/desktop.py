@@ -104,6 +104,3 @@ class Desktop:
 
         wait_for("bouncing balls", enough)
         return np.median(list(looks.values()), 0)
-
-    def wait_for_focus(self):
-        wait_for("the keyboard's focus", lambda: "Zampotine" in self.xdotool("getwindowfocus", "getwindowname"))

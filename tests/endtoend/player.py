@@ -53,9 +53,9 @@ class Player:
             self.file.write_text("[init]\n" + settings)
         self.process = desktop.start(program)
         self.window = wait_for("the window", self.visible)
-        wait_for("a dealt board", lambda: set("".join(self.board())) <= set(COLOURS))
         if desktop.managed:
-            desktop.wait_for_focus()
+            self.expect_window("the main window", bool)
+        wait_for("a dealt board", self.is_full)
 
     def stored(self):
         return dict(re.findall("(.+)=(.*)", self.file.read_text()))
@@ -68,10 +68,14 @@ class Player:
     def geometry(self, window=None):
         return self.desktop.geometry(window or self.window)
 
+    def on_screen(self, place, window=None):
+        """Where a place in the window, in pixels at a scale of 1, is on the screen."""
+        left, top, _, _ = self.geometry(window)
+        return left + round(self.scale * place[0]), top + round(self.scale * place[1])
+
     def look(self, start, end, window=None):
         """The pixels by row and column between two places in the window."""
-        left, top, _, _ = self.geometry(window)
-        area = (left + start[0], top + start[1], left + end[0], top + end[1])
+        area = self.on_screen(start, window) + self.on_screen(end, window)
         return np.array(self.desktop.screenshot(area).convert("RGB"))
 
     def board_size(self):
@@ -81,8 +85,8 @@ class Player:
     def board(self):
         """The board, with "?" where a cell shows neither a ball nor the field."""
         columns, rows = self.board_size()
-        first, side = int(BOARD * self.scale + 0.5), round(CELL * self.scale)
-        pixels = self.look((first, first), (first + side * columns, first + side * rows))
+        side = round(CELL * self.scale)
+        pixels = self.look((BOARD, BOARD), (BOARD + CELL * columns, BOARD + CELL * rows))
         cells = pixels.reshape(rows, side, columns, side, 3).transpose(2, 0, 1, 3, 4)
         folder, tolerance = (PICTURES, 0) if self.scale == 1 else (self.desktop.home / str(self.scale), 2)
         shown = np.full((columns, rows), "?")
@@ -90,12 +94,11 @@ class Player:
             shown[(abs(cells - pixels_of(content, folder, side)) <= tolerance).all((2, 3, 4))] = content
         return tuple(map("".join, shown))
 
+    def is_full(self):
+        return set("".join(self.board())) <= set(COLOURS)
+
     def expect_board(self, expected, cause):
         wait_for(f"the board\n{model.text(expected)}\nafter {cause}", lambda: self.board() == expected)
-
-    def shows_panel(self):
-        """Whether the panel at the end of a game covers the board."""
-        return "?" in "".join(self.board())
 
     def in_panel(self, place):
         return place[0] + CELL * self.board_size()[0] + 40, place[1] + BOARD
@@ -108,13 +111,11 @@ class Player:
         return (self.look((x - 3, y - 3), (x + 4, y + 4)).sum(2) < 200).sum() > 4
 
     def act(self, *actions, window=None):
-        """Pointer and keys in the terms of xdotool, where a pair is a place in the window at a scale of 1."""
-        left, top, _, _ = self.geometry(window)
+        """Pointer and keys in the terms of xdotool, where a pair is a place in the window."""
         words = []
         for action in actions:
             if isinstance(action, tuple):
-                x, y = (round(self.scale * length) for length in action)
-                words += ["mousemove", left + x, top + y, *self.AFTER_POINTING]
+                words += ["mousemove", *self.on_screen(action, window), *self.AFTER_POINTING]
             else:
                 words.append(action)
         self.desktop.xdotool(*words)
@@ -155,21 +156,14 @@ class Player:
         for box, typed in ((COLUMNS_BOX, columns), (ROWS_BOX, rows)):
             self.act(self.in_panel(box), "click", 1, "key", "ctrl+a", "type", "--", typed)
 
-    def press(self, cell, button=1):
-        self.act(centre(cell), "click", button)
-
     def play(self, board, cell, button=1):
         """Presses a ball of a group. Returns the board after it, once the move is over and right."""
         after = model.without(board, model.group(board, cell))
-        move = f"button {button} on {cell} of\n{model.text(board)}"
         line = self.balls_left_line()
-        self.press(cell, button)
-        if model.balls_left(after) > 1:
-            self.expect_board(after, move)
-        else:
-            wait_for(f"the panel at the end after {move}", self.shows_panel)
+        self.act(centre(cell), "click", button)
+        self.expect_board(after, f"button {button} on {cell} of\n{model.text(board)}")
         # The line changes at the very end of a move: before that, a next press would wait.
-        wait_for(f"another number of balls after {move}", lambda: self.balls_left_line() != line)
+        wait_for("another number of balls", lambda: self.balls_left_line() != line)
         return after
 
     def play_largest(self, board):
@@ -177,11 +171,8 @@ class Player:
         balls = model.groups(board)[-1]
         return self.play(board, min(balls)), model.points(len(balls))
 
-    def start_new_game(self):
-        self.click(NEW_GAME)
-
     def deal(self):
-        self.start_new_game()
+        self.click(NEW_GAME)
         self.catch_up()
         return self.board()
 
@@ -193,29 +184,9 @@ class Player:
             presses, left = model.game(board)
         return board, presses
 
-    def play_game(self, balls_left):
-        """Deals and plays a whole game. Returns its last board and the sum of the points of its moves."""
-        board, presses = self.deal_game(balls_left)
-        score = 0
-        for cell in presses:
-            score += model.points(len(model.group(board, cell)))
-            board = self.play(board, cell)
-        return board, score
-
     def catch_up(self):
         """Returns once the program has handled all that was done so far."""
         on = self.is_marked(SOUND_SWITCH)
         for state in (not on, on):
             self.act("key", "ctrl+s")
             wait_for("the sound switch's mark", lambda: self.is_marked(SOUND_SWITCH) == state)
-
-
-class KeyboardPlayer(Player):
-    """Plays with keys. The pointer only hides the cursor of the board afterwards."""
-
-    def press(self, cell, button=1):
-        # The first key only shows the cursor.
-        self.act("key", "Up", "Home", "Prior", *cell[0] * ["Right"], *cell[1] * ["Down"], "space", (20, 20), (21, 20))
-
-    def start_new_game(self):
-        self.act("key", "F2")

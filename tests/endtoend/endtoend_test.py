@@ -171,16 +171,17 @@ class EndToEnd(Case):
 
     def test_scales(self):
         """On a screen of another scale, and back, balls are as drawn, the border has no seams, all looks the same."""
-        with self.desktop(5000, 1800) as desktop:
+        with self.desktop(3450, 1500) as desktop:
             desktop.run(PROGRAM.with_name("draw_balls"), desktop.home)
-            for monitor in ("left 2400/300x1800/300+0+0 screen", "right 2600/300x1800/300+2400+0 none"):
+            for monitor in ("left 1200/300x1500/300+0+0 screen", "right 2250/300x1500/300+1200+0 none"):
                 desktop.run("xrandr", "--setmonitor", *monitor.split())
             for other in (1.25, 1.5, 1.75, 2, 3):
                 desktop.environment["QT_SCREEN_SCALE_FACTORS"] = f"1;{other}"
                 player = Player(desktop, PROGRAM, LARGE + "Niveau=4\n")
                 look = scaled_down(player)
-                for place, player.scale in (((2500, 100), other), ((200, 150), 1)):
+                for place, player.scale in (((1200, 50), other), ((0, 50), 1)):
                     desktop.xdotool("windowmove", "--sync", player.window, *place)
+                    wait_for(f"a window at {player.scale}", lambda: player.board_size() == (25, 20))
                     wait_for(f"balls as drawn at {player.scale}, with 1 and {other}", player.is_full)
                     wait_for(f"the same look at {player.scale}, with 1 and {other}",
                              lambda: abs(scaled_down(player) - look).mean() < 1.5)

@@ -68,15 +68,11 @@ class Player:
     def geometry(self, window=None):
         return self.desktop.geometry(window or self.window)
 
-    def on_screen(self, place, window=None):
-        """Where a place in the window, in pixels at a scale of 1, is on the screen."""
-        left, top, _, _ = self.geometry(window)
-        return left + round(self.scale * place[0]), top + round(self.scale * place[1])
-
     def look(self, start, end, window=None):
         """The pixels by row and column between two places in the window."""
-        area = self.on_screen(start, window) + self.on_screen(end, window)
-        return np.array(self.desktop.screenshot(area).convert("RGB"))
+        left, top, _, _ = self.geometry(window)
+        x1, y1, x2, y2 = (round(self.scale * length) for length in start + end)
+        return np.array(self.desktop.screenshot((left + x1, top + y1, left + x2, top + y2)).convert("RGB"))
 
     def board_size(self):
         _, _, width, height = self.geometry()
@@ -112,10 +108,12 @@ class Player:
 
     def act(self, *actions, window=None):
         """Pointer and keys in the terms of xdotool, where a pair is a place in the window."""
+        left, top, _, _ = self.geometry(window)
         words = []
         for action in actions:
             if isinstance(action, tuple):
-                words += ["mousemove", *self.on_screen(action, window), *self.AFTER_POINTING]
+                x, y = (round(self.scale * length) for length in action)
+                words += ["mousemove", left + x, top + y, *self.AFTER_POINTING]
             else:
                 words.append(action)
         self.desktop.xdotool(*words)

@@ -21,8 +21,7 @@ FAULTS = PROGRAM.parents[1] / "tests" / "faults" / "libfaults.so"
 class Case(unittest.TestCase):
     @contextlib.contextmanager
     def desktop(self, width=1600, height=1200, **kind):
-        with contextlib.ExitStack() as stack:
-            desktop = Desktop(stack, FOLDER, width, height, **kind)
+        with Desktop(FOLDER, width, height, **kind) as desktop:
             try:
                 yield desktop
             except Exception:

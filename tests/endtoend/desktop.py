@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 
 """A screen of its own with a window manager, a loudspeaker and a player's home folder that is thrown away."""
+import contextlib
 import os
 import pathlib
 import re
@@ -27,12 +28,12 @@ def wait_for(what, condition):
     return value
 
 
-class Desktop:
-    def __init__(self, stack, folder, width, height, managed=True, session=None):
-        """Whatever is started ends when the stack is unwound, or with this process. A session is more variables of
-        the environment; without a window manager, the keyboard is with the window under the pointer."""
-        home = pathlib.Path(stack.enter_context(tempfile.TemporaryDirectory(dir=folder)))
-        self.home = home
+class Desktop(contextlib.ExitStack):
+    def __init__(self, folder, width, height, managed=True, session=None):
+        """Whatever is started ends with this context, or with this process. A session is more variables of the
+        environment. Without a window manager, the window under the pointer has the keyboard."""
+        super().__init__()
+        self.home = home = pathlib.Path(self.enter_context(tempfile.TemporaryDirectory(dir=folder)))
         self.loudspeaker = home / "loudspeaker"  # a file that grows at the speed of the sound
         self.environment = {
             **os.environ,
@@ -45,15 +46,14 @@ class Desktop:
             "SDL_DISKAUDIOFILE": str(self.loudspeaker),
             **(session or {}),
         }
-        # What opens addresses for the player notes them down.
+        # This program opens addresses on other desktops. Here it writes them down.
         self.opened = home / "opened"
         opener = home / "xdg-open"
         opener.write_text(f'#!/bin/sh\necho "$@" >>"{self.opened}"\n')
         opener.chmod(0o755)
         self.managed = managed
-        self._stack = stack
-        # The display would start anew, and drop who is just coming, each time that its last client leaves; and repeat
-        # the keys that a busy machine holds down for long.
+        # By default, the display restarts when its last client leaves, and drops clients that connect meanwhile. It
+        # also repeats keys, which a busy machine may hold down for long.
         self.display = self.start("Xvfb", "-noreset", "-r", "-displayfd", "1", "-screen", "0", f"{width}x{height}x24",
                                   output=subprocess.PIPE)
         self.environment["DISPLAY"] = ":" + self.display.stdout.readline().decode().strip()
@@ -64,11 +64,11 @@ class Desktop:
             wait_for("the window manager", (home / "ready").exists)
 
     def start(self, *command, output=None, errors=None):
-        """A process that is ended with the stack, and by the kernel should this process be killed."""
-        process = self._stack.enter_context(subprocess.Popen(
+        """Starts a process, which ends with the desktop. If this process is killed, the kernel ends it."""
+        process = self.enter_context(subprocess.Popen(
             ["setpriv", "--pdeathsig", "TERM", *command], env=self.environment, cwd=self.home,
             stdout=output, stderr=errors))
-        self._stack.callback(process.terminate if command[0] == "Xvfb" else process.kill)
+        self.callback(process.terminate if command[0] == "Xvfb" else process.kill)
         return process
 
     def xdotool(self, *words):

@@ -60,18 +60,17 @@ class ScreenReader:
     def wait_to_hear(self, sentence):
         wait_for(f"{sentence}, after {self.heard},", lambda: sentence in self.listen())
 
-    def controls(self):
-        """All windows and controls that show, except cells."""
-        def shows(control):
-            return control.getState().contains(self.atspi.STATE_SHOWING) and role_of(control) != "table cell"
-        return self.atspi.findAllDescendants(self.atspi.Registry.getDesktop(0)[0], shows)
+    def controls(self, role="", name=""):
+        """The windows and controls that show, cells excepted: all, or those of this role whose name has this text."""
+        def is_meant(control):
+            shows = control.getState().contains(self.atspi.STATE_SHOWING) and role_of(control) != "table cell"
+            return shows and role in ("", role_of(control)) and name in control.name
+        self.listen()
+        with contextlib.suppress(GLib.Error, LookupError):  # while windows come and go
+            return self.atspi.findAllDescendants(self.atspi.Registry.getDesktop(0)[0], is_meant)
 
     def find(self, role, name=""):
-        def found():
-            self.listen()
-            with contextlib.suppress(GLib.Error, LookupError):
-                return next((it for it in self.controls() if role_of(it) == role and name in it.name), None)
-        return wait_for(f"{role} {name}", found)
+        return wait_for(f"{role} {name}", lambda: self.controls(role, name))[0]
 
     def said_of(self, control):
         """Its role and name, and for a button or link its description and key."""

@@ -15,7 +15,7 @@ int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     bool drawn = argc == 2;
-    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0}) {
+    for (const double scale : {1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 3.0}) {
         const QDir folder(u"%1/%2"_s.arg(QString::fromLocal8Bit(argv[1])).arg(scale));
         folder.mkpath(u"."_s);
         for (const char* ball : {"ir", "ib", "iv", "ij", "ip", "ig"}) {

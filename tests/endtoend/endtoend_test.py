@@ -145,9 +145,9 @@ class EndToEnd(Case):
 
     def test_about(self):
         """The balls leave no traces at a scale that puts them between screen pixels, and bounce on after a pause."""
-        with self.desktop(session={"QT_SCALE_FACTOR": "1.25"}) as desktop:
+        with self.desktop(session={"QT_SCALE_FACTOR": "1.1"}) as desktop:
             desktop.run(PROGRAM.with_name("draw_balls"), desktop.home)
-            player = Player(desktop, PROGRAM, LARGE, scale=1.25)
+            player = Player(desktop, PROGRAM, LARGE, scale=1.1)
             desktop.xdotool("windowmove", "--sync", player.window, 30, 500)
             place = player.geometry()
             about = player.open_about(button=3)

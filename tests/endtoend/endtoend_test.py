@@ -11,7 +11,7 @@ from PIL import Image
 import model
 from case import PROGRAM, Case, main
 from desktop import PATIENCE, wait_for
-from player import BACK, BACKGROUND, COLOURS, MAIL, OPTIONS, SITE, SOUND_SWITCH, Player, centre
+from player import BACK, BACKGROUND, COLOURS, MAIL, SIX_COLOURS, SITE, SOUND_SWITCH, Player, centre
 from screen_reader import ScreenReader, names
 
 SOUNDS = pathlib.Path(__file__).resolve().parents[2] / "assets" / "sounds"
@@ -46,7 +46,7 @@ class EndToEnd(Case):
             self.assertTrue(player.is_marked(SOUND_SWITCH))
             self.assertEqual(player.stored(), {"Niveau": "0"})
             player.enter("+40", "12.9x")
-            player.click(OPTIONS[4])
+            player.click(SIX_COLOURS)
             player.click(SOUND_SWITCH)
             player.act("key", "alt+F4")  # the window manager's key
             self.assertEqual(player.process.wait(PATIENCE), 0)
@@ -108,6 +108,7 @@ class EndToEnd(Case):
                 self.assertEqual([cell.name for cell in table], names(board))
                 self.assertEqual(sorted(reader.listen()), sorted([move, *changes]))
             self.assertEqual(player.stored()["0"], str(score))
+            wait_for("praise in red", lambda: (player.look((17, 17), (197, 330)) == (192, 0, 0)).all(2).sum() > 100)
             reader.ask(reader.find("button", "Aide"))
             back = reader.find("link", "Retour")
             self.assertEqual([reader.said_of(it) for it in reader.controls("link")], [

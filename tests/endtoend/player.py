@@ -19,10 +19,9 @@ CELL = 20  # pixels
 BACKGROUND = (200, 445)  # of a window with 25 columns and 20 rows
 BOARD = 33  # pixels from the window's left and top to the first cell, and from its top to the side panel
 # Places in the side panel.
-OPTIONS = tuple((12, 8 + 14 * level) for level in range(5))
-COLUMNS_BOX, ROWS_BOX, SOUND_SWITCH = (118, 27), (157, 27), (12, 80)
-NEW_GAME, QUIT_CAPTION = (37, 234), (141, 233)
-HELP_ICON = (89, 227)
+SIX_COLOURS, SOUND_SWITCH = (12, 64), (12, 80)
+COLUMNS_BOX, ROWS_BOX = (118, 27), (157, 27)
+NEW_GAME, HELP_ICON = (37, 234), (89, 227)
 # Places in the About window.
 MAIL, SITE, BACK = (77, 315), (208, 314), (340, 313)
 
@@ -61,7 +60,7 @@ class Player:
         return dict(re.findall("(.+)=(.*)", self.file.read_text()))
 
     def visible(self):
-        """The program's window that shows; nothing if there is none, or more than one."""
+        """The program's only window that shows, or None."""
         windows = self.desktop.windows()
         return windows[0] if len(windows) == 1 else None
 
@@ -107,7 +106,7 @@ class Player:
         return (self.look((x - 3, y - 3), (x + 4, y + 4)).sum(2) < 200).sum() > 4
 
     def act(self, *actions, window=None):
-        """Pointer and keys in the terms of xdotool, where a pair is a place in the window."""
+        """Uses pointer and keys. The actions are words of xdotool; a pair is a place in the window to point at."""
         left, top, _, _ = self.geometry(window)
         words = []
         for action in actions:
@@ -122,7 +121,7 @@ class Player:
         self.act(self.in_panel(place), "click", 1)
 
     def expect_window(self, what, condition):
-        """The window that shows with the keyboard's focus, once it is the right one."""
+        """Waits until the right window shows and has the keyboard's focus. Returns it."""
         window = wait_for(what, lambda: condition(self.visible()) and self.visible())
         wait_for(f"the keyboard's focus in {what}", lambda: self.desktop.xdotool("getwindowfocus").strip() == window)
         return window
@@ -139,8 +138,8 @@ class Player:
         self.expect_window("the main window", lambda window: window == self.window)
 
     def drag(self, place, button, *moves, follows=True):
-        """Drags from a place in the window by these moves, one after the other, each of which it follows. The pointer
-        ends far from where it let go."""
+        """Drags at a place in the window by these moves, one after the other. The window must follow each of them.
+        Afterwards the pointer is far away."""
         left, top, _, _ = self.geometry()
         self.act(place, "mousedown", button)
         for x, y in moves:

@@ -98,7 +98,7 @@ class EndToEnd(Case):
                 score += model.points(len(group))
                 changes = [f"now: {name}" for name in names(board) if name not in before]
                 end = ""
-                if cell == presses[-1]:
+                if model.balls_left(board) == 0:
                     score *= 2
                     changes += ["now: Plateau, aucun groupe", "Terminé, Meilleur score !!!"]
                     end = " Aucun groupe."

@@ -2,47 +2,31 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-"""The folders include each other one way only, and the rules use the standard library alone."""
-
+"""The folders include each other in one direction only, and the rules use nothing but the standard library."""
+import pathlib
 import re
 import sys
-from pathlib import Path
 
-ROOT = Path(__file__).resolve().parent.parent
+ROOT = pathlib.Path(__file__).resolve().parents[1]
+QT, SYSTEM = r"<Q\w+>", r"<(sys/)?[a-z]+\.h>"
+# What a folder may include besides its own headers and the standard library.
 ALLOWED = {
-    "rules": set(),
-    "settings": {"<Q", "system"},
-    "platform/sound": {"<SDL", "system", "platform/shared_library.h"},
-    "platform": {"<Q", "<librsvg", "system"},
-    "animation": {"<Q", "platform"},
-    "assets": {"<Q", "platform"},
-    "about": {"<Q", "platform", "animation", "assets"},
-    "mainwindow/board": {"<Q", "rules", "platform", "assets"},
-    "mainwindow": {*"<Q rules settings platform platform/sound/sound.h animation assets about mainwindow/board".split()},
+    "rules": "nothing else",
+    "settings": f"{QT}|{SYSTEM}",
+    "platform/sound": fr'<SDL\.h>|{SYSTEM}|"platform/shared_library\.h"',
+    "platform": fr"{QT}|<librsvg/rsvg\.h>|{SYSTEM}",
+    "animation": fr'{QT}|"platform/\w+\.h"',
+    "assets": fr'{QT}|"platform/\w+\.h"',
+    "about": fr'{QT}|"(platform|animation|assets)/\w+\.h"',
+    "mainwindow/board": fr'{QT}|"(rules|platform|assets)/\w+\.h"',
+    "mainwindow": fr'{QT}|"(rules|settings|platform|animation|assets|about|mainwindow/board)/\w+\.h"'
+                  r'|"platform/sound/sound\.h"',
 }
 
-
-def source_of(include):
-    """The folder of a quoted include, or the library of one in angle brackets; empty for the standard one."""
-    if include[0] == '"':
-        return include[1:].rpartition("/")[0]
-    if include.endswith(".h") or "/" in include or include[1].isupper():
-        return next((library for library in ("<Q", "<SDL", "<librsvg") if include.startswith(library)), "system")
-    return ""  # the standard library
-
-
-def faults():
-    for folder, allowed in ALLOWED.items():
-        sources = [path for path in (ROOT / folder).iterdir() if path.suffix in (".h", ".cpp")]
-        if not sources:
-            yield f"{folder}: no sources found"
-        for path in sources:
-            for include in re.findall(r'^#include ([<"][^>"]+)', path.read_text(), re.MULTILINE):
-                if not {source_of(include), include[1:]} & (allowed | {folder, ""}):
-                    yield f"{path.relative_to(ROOT)} must not include {include[1:]}"
-
-
-if __name__ == "__main__":
-    found = list(faults())
-    print("\n".join(found) or "every include points the right way")
-    sys.exit(bool(found))
+faults = []
+for folder, allowed in ALLOWED.items():
+    for source in (path for path in (ROOT / folder).iterdir() if path.suffix in (".h", ".cpp")):
+        for include in re.findall(r"^#\s*include\s*(\S+)", source.read_text(), re.MULTILINE):
+            if not re.fullmatch(fr'<[a-z_]+>|"{folder}/\w+\.h"|{allowed}', include):
+                faults.append(f"{source.relative_to(ROOT)} must not include {include}")
+sys.exit("\n".join(faults) or 0)

@@ -2,109 +2,78 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-"""Checks the formats, sizes and joins of the pictures, and the length, level and ends of the sounds.
-
-Usage: assets_test.py [ASSETS_FOLDER]
-"""
+"""Checks the pictures and sounds for what a change of their sources may spoil."""
 import pathlib
-import struct
-import sys
-import wave
+import subprocess
+import unittest
 
 import numpy as np
 from PIL import Image
 
-FIELD = (128, 160, 192)
-GREY = (128, 128, 128)
-# Where the centre of the rounding lies, seen from the piece's top left.
-CORNERS = {"HG": (16, 16), "HD": (0, 16), "BG": (16, 0), "BD": (0, 0)}
-
-failures = []
+ASSETS = pathlib.Path(__file__).parents[2] / "assets"
+FIELD = (128, 160, 192)  # the background of the windows
 
 
-def expect(condition, message):
-    if not condition:
-        failures.append(message)
+def pixels(name):
+    """The pixels by row and column. Each is red, green, blue and opacity."""
+    with Image.open(ASSETS / "pictures" / name) as picture:
+        return np.array(picture.convert("RGBA")).astype(int)
 
 
-def pixels(folder, file, image_format, size):
-    """RGBA pixels by row and column."""
-    image = Image.open(folder / file)
-    expect((image.format, image.size) == (image_format, size), f"{file}: {image.format} of {image.size}")
-    return np.array(image.convert("RGBA")).astype(int)
+class Assets(unittest.TestCase):
+    def test_pictures_have_their_formats_and_sizes(self):
+        for files, expected in (("i?.gif", "GIF image data, .*20 x 20"), ("button-*.gif", "GIF image data, .*76 x 20"),
+                                ("[BDGH]*.bmp", "PC bitmap, .*16 x 16 x 24, .*"),
+                                ("*.ico", "MS Windows icon resource - 1 icon, 32x32, 16 colors.*")):
+            formats = subprocess.check_output(["file", "--brief", *ASSETS.glob(f"pictures/{files}")], text=True)
+            self.assertRegex(formats, f"^({expected}\n)+$")
 
+    def test_balls_have_one_round_shape_that_nearly_fills_a_cell(self):
+        ball, *others = (pixels(f"{name}.gif")[:, :, 3] > 0 for name in ("ir", "ib", "iv", "ij", "ip", "ig"))
+        for shape in (*others, ball.T, ball[::-1]):
+            np.testing.assert_array_equal(shape, ball)
+        self.assertIn(ball.any(axis=0).sum(), (18, 19))
 
-def check_balls(folder):
-    files = [f"{ball}.gif" for ball in ("ir", "ib", "iv", "ij", "ip", "ig")]
-    shapes = [pixels(folder, file, "GIF", (20, 20))[:, :, 3] > 0 for file in files]
-    for shape in shapes + [shapes[0][::-1], shapes[0][:, ::-1], shapes[0].T]:
-        expect(np.array_equal(shape, shapes[0]), "balls: the silhouettes differ or are not round and centred")
-    rows = np.flatnonzero(shapes[0].any(axis=1))
-    expect(len(rows) in (18, 19), f"balls: {len(rows)} pixels across, so they look small or merge")
+    def test_buttons_are_lit_from_the_top_left_and_turned_round_under_the_mouse(self):
+        button = pixels("button-normal.gif")
+        np.testing.assert_array_equal(pixels("button-hover.gif"), button[::-1, ::-1])
+        self.assertFalse(button[::19, ::75, 3].any(), "a corner is not cut")
+        self.assertTrue(button[10, 1:-1, 3].all(), "there is a hole")
+        light = button[:, :, :3].mean(axis=2) - np.mean(FIELD)
+        self.assertGreater(min(light[0, 37], light[10, 1]), 20)
+        self.assertLess(max(light[-1, 37], light[10, -2]), -20)
 
+    def test_frame_has_edges_that_tile_and_rounded_corners_that_join_them(self):
+        sides = (("HG", "H", "HD"), ("HD", "D", "BD"), ("BD", "B", "BG"), ("BG", "G", "HG"))
+        for turns, side in enumerate(sides):
+            with self.subTest(side):
+                # The side of the frame, turned so that its outer rim is at the top.
+                strip = np.hstack([np.rot90(pixels(f"{piece}.bmp")[:, :, :3], turns) for piece in side])
+                steps = abs(np.diff(strip, axis=1)).max(axis=(0, 2))
+                self.assertEqual(steps[16:31].max(), 0, "the edge does not tile")
+                self.assertLessEqual(steps[[15, 31]].max(), 12, "there is a step at a corner")
+                self.assertTrue((strip[15, 16] == FIELD).all(), "the edge does not end in the colour of the field")
+                self.assertEqual(strip[:, 16].mean() > np.mean(FIELD), "H" in side[1] or "G" in side[1], "wrongly lit")
+                to_centre = 15.5 - np.arange(16)
+                outside = np.hypot.outer(to_centre, to_centre) > 16.75
+                self.assertTrue((strip[:, :16][outside] == 128).all(), "the corner is not grey outside of its rounding")
 
-def check_buttons(folder):
-    for file, sign in (("button-normal.gif", 1), ("button-hover.gif", -1)):
-        button = pixels(folder, file, "GIF", (76, 20))
-        expect(not button[[0, 0, -1, -1], [0, -1, 0, -1], 3].any(), f"{file}: corners are not cut")
-        shown = button[:, 1:-1]  # the first and last column are clear
-        expect((shown[10, :, 3] > 0).all() and (shown[:, 36, 3] > 0).all(), f"{file}: has holes")
-        sides = shown[[0, -1, 10, 10], [36, 36, 0, -1], :3].sum(axis=1)
-        top, bottom, left, right = sign * (sides - sum(FIELD))
-        expect(min(top, left) > 60 and max(bottom, right) < -60, f"{file}: lit from the wrong side")
+    def test_icons_are_cut_out(self):
+        for name in ("zampotine.ico", "help.ico"):
+            self.assertEqual(set(pixels(name)[:, :, 3].flat), {0, 255}, name)
 
-
-def check_frame(folder):
-    piece = {name: pixels(folder, f"{name}.bmp", "BMP", (16, 16))[:, :, :3] for name in ("H", "B", "G", "D", *CORNERS)}
-    for name in piece:
-        kind = struct.unpack_from("<HI", (folder / f"{name}.bmp").read_bytes(), 28)
-        expect(kind == (24, 0), f"{name}.bmp: bits and compression are {kind}")
-    # Every edge as a profile from the rim inwards; along the edge it must not change.
-    edges = {"H": piece["H"], "B": piece["B"][::-1],
-             "G": piece["G"].swapaxes(0, 1), "D": piece["D"].swapaxes(0, 1)[::-1]}
-    for name, rows in edges.items():
-        expect((rows == rows[:, :1]).all(), f"{name}.bmp: does not tile")
-        expect(tuple(rows[-1, 0]) == FIELD, f"{name}.bmp: does not end in the colour of the field")
-        expect((rows.mean() > np.mean(FIELD)) == (name in "HG"), f"{name}.bmp: lit from the wrong side")
-    for name, (x, y) in CORNERS.items():
-        across, down = np.meshgrid(np.arange(16) + 0.5 - x, np.arange(16) + 0.5 - y)
-        outside = np.hypot(across, down) > 16.75
-        expect((piece[name][outside] == GREY).all(), f"{name}.bmp: not grey outside of the rounding")
-        for side, edge in ((piece[name][:, -1 if x else 0], piece[name[0]][:, 0]),
-                           (piece[name][-1 if y else 0], piece[name[1]][0])):
-            expect(np.abs(side - edge).max() <= 12, f"{name}.bmp: a step where it joins an edge")
-
-
-def check_icons(folder):
-    for file in ("zampotine.ico", "help.ico"):
-        alpha = pixels(folder, file, "ICO", (32, 32))[:, :, 3]
-        expect(set(np.unique(alpha)) == {0, 255}, f"{file}: not cut out of a clear ground")
-        data = (folder / file).read_bytes()
-        count, (offset,) = struct.unpack_from("<H", data, 4)[0], struct.unpack_from("<I", data, 18)
-        (bits,) = struct.unpack_from("<H", data, offset + 14)
-        expect((count, bits) == (1, 4), f"{file}: {count} pictures, {bits} bits a pixel")
-
-
-def check_sounds(folder):
-    lengths, energies = [], []
-    for name in ("son2", "son5", "son10", "son50", "son80"):
-        with wave.open(str(folder / f"{name}.WAV")) as sound:
-            kind = (sound.getnchannels(), sound.getsampwidth(), sound.getframerate())
-            samples = np.frombuffer(sound.readframes(sound.getnframes()), "<i2") / 32768
-        expect(kind == (1, 2, 44100), f"{name}: channels, bytes, rate are {kind}")
-        peak = 20 * np.log10(np.abs(samples).max())
-        expect(-8 < peak < -2.9, f"{name}: peak {peak:.1f} dB")
-        expect(samples[0] == 0 and np.abs(samples[-44:]).max() < 0.001, f"{name}: clicks where it begins or ends")
-        expect(np.abs(samples).argmax() < 0.03 * 44100, f"{name}: not loudest at once")
-        lengths.append(len(samples) / 44.1)
-        energies.append((samples**2).sum())
-    expect(lengths == [60, 110, 180, 260, 350], f"sounds: they last {lengths} ms")
-    expect(energies == sorted(energies), "sounds: a bigger group sounds weaker than a smaller one")
+    def test_sounds_are_loudest_at_once_and_a_bigger_group_sounds_stronger(self):
+        weaker = 0
+        for name, milliseconds in (("son2", 60), ("son5", 110), ("son10", 180), ("son50", 260), ("son80", 350)):
+            with self.subTest(name):
+                samples = np.fromfile(ASSETS / f"sounds/{name}.WAV", "<i2", offset=44) / 32768
+                self.assertEqual(len(samples), 44100 * milliseconds // 1000)
+                self.assertTrue(0.4 < abs(samples).max() < 0.716, "it is too quiet or too loud")
+                self.assertLess(abs(samples).argmax(), 0.03 * 44100)
+                self.assertTrue(samples[0] == 0 and abs(samples[-44:]).max() < 0.001, "it clicks at an end")
+                self.assertGreater((samples**2).sum(), weaker)
+                weaker = (samples**2).sum()
 
 
 if __name__ == "__main__":
-    assets = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else pathlib.Path(__file__).parents[2] / "assets")
-    for check in (check_balls, check_buttons, check_frame, check_icons):
-        check(assets / "pictures")
-    check_sounds(assets / "sounds")
-    sys.exit("\n".join(failures) or 0)
+    unittest.main()

@@ -24,6 +24,7 @@ TEST(Pictures, AreTheirFilesAtTheNaturalSizeAndDrawnFromTheirSourcesAtAnyOther) 
         for (const int across : {1, 2}) {
             const QSize size(file.size().width() * across, file.size().height() * 3);
             QPixmap difference = file.inPixels(size);
+            EXPECT_EQ(difference.size(), size);
             EXPECT_NE(picture.inPixels(size).toImage(), difference.toImage()) << "the file is only stretched";
             QPainter painter(&difference);
             painter.setCompositionMode(QPainter::CompositionMode_Difference);

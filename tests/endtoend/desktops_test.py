@@ -15,33 +15,20 @@ from wayland import WaylandPlayer
 
 SETTINGS = "Col=25\nLig=20\nSon=0\n"
 LARGE_FONT = "DejaVu Serif,20,-1,5,50,0,0,0,0,0"
-GTK_SETTINGS = "[Settings]\ngtk-font-name=DejaVu Serif 20\n"
+KDE_SETTINGS = f"[General]\nfont={LARGE_FONT}\ntoolBarFont={LARGE_FONT}\nwidgetStyle=windows\n" + "".join(
+    f"[Colors:{part}]\nBackgroundNormal=30,0,30\nBackgroundAlternate=30,0,30\nForegroundNormal=255,255,0\n"
+    for part in ("Window", "View", "Button", "Selection", "Tooltip"))
 KDE = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"}
-GNOME = {"XDG_CURRENT_DESKTOP": "GNOME"}
-SESSIONS = {
-    "of no kind": {},
-    "KDE, dark": KDE | {"colours": ("30,0,30", "255,255,0")},
-    "KDE, high contrast": KDE | {"colours": ("0,0,0", "255,255,255")},
-    "GNOME, dark": GNOME | {"GTK_THEME": "Adwaita:dark"},
-    "with a style of its own": {"QT_STYLE_OVERRIDE": "windows"},
-}
-
-
-def kdeglobals(background, foreground):
-    return f"[General]\nfont={LARGE_FONT}\ntoolBarFont={LARGE_FONT}\nwidgetStyle=windows\n" + "".join(
-        f"[Colors:{part}]\nBackgroundNormal={background}\nBackgroundAlternate={background}\n"
-        f"ForegroundNormal={foreground}\n" for part in ("Window", "View", "Button", "Selection", "Tooltip"))
+GNOME = {"XDG_CURRENT_DESKTOP": "GNOME", "GTK_THEME": "Adwaita:dark", "QT_STYLE_OVERRIDE": "windows"}
 
 
 class Desktops(Case):
     def test_sessions(self):
+        """Dark colours, large fonts and other styles of the desktop change nothing in the windows and the tool tip."""
         looks = {}
-        for name, session in SESSIONS.items():
-            colours = session.pop("colours", ("239,240,241", "0,0,0"))
-            with self.subTest(session=name), self.desktop(session=session) as desktop:
-                (desktop.home / "kdeglobals").write_text(kdeglobals(*colours))
-                (desktop.home / "gtk-3.0").mkdir()
-                (desktop.home / "gtk-3.0/settings.ini").write_text(GTK_SETTINGS)
+        for session in ({}, KDE, GNOME):
+            with self.subTest(session), self.desktop(session=session) as desktop:
+                (desktop.home / "kdeglobals").write_text(KDE_SETTINGS)
                 player = Player(desktop, PROGRAM, SETTINGS)
                 left, top, width, _ = player.geometry()
 
@@ -50,11 +37,10 @@ class Desktops(Case):
                     screen[top + BOARD:top + BOARD + 20 * CELL, left + BOARD:left + BOARD + 25 * CELL] = 0
                     return screen
 
-                player.act(player.in_panel(COLUMNS_BOX), "click", 1, "key", "ctrl+a")
-                player.act(player.in_panel((72, 125)))
+                player.act(player.in_panel(COLUMNS_BOX), "click", 1, "key", "ctrl+a", player.in_panel((72, 125)))
                 wait_for("a tool tip beyond the window", lambda: desktop.screenshot().getbbox()[2] > left + width)
                 main_look = looks.setdefault("main", screen_without_balls())
-                # Once in a while, the blinking cursor too is as it was.
+                # The cursor in the text box blinks: only from time to time it is as in the other picture.
                 wait_for("the same main window", lambda: (screen_without_balls() == main_look).all())
                 still = desktop.still(player.open_about())
                 self.assertTrue((still == looks.setdefault("About", still)).all(), "the same About window")
@@ -62,10 +48,9 @@ class Desktops(Case):
     def test_two_screens(self):
         with self.desktop(2400, 1200) as desktop:
             for monitor in ("left 1400/370x1000/265+0+0 screen", "right 1000/265x800/212+1400+300 none"):
-                self.assertEqual(desktop.start("xrandr", "--setmonitor", *monitor.split()).wait(PATIENCE), 0)
+                desktop.run("xrandr", "--setmonitor", *monitor.split())
             player = Player(desktop, PROGRAM, SETTINGS)
             for across, about_place, new_place in (
-                ((0, 0), (493, 328), (331, 200)),
                 ((1000, 280), (1400 + 293, 300 + 228), (1400 + 131, 300 + 100)),
                 ((-900, 20), (493, 328), (331, 200)),
             ):

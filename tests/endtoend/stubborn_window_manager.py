@@ -15,6 +15,5 @@ while True:
     if event.type == X.MapRequest:
         event.window.configure(x=50, y=40)
         event.window.map()
-        event.window.set_input_focus(X.RevertToParent, X.CurrentTime)
     elif event.type == X.ConfigureRequest:
         event.window.configure(width=event.width, height=event.height)

@@ -2,8 +2,6 @@
 # SPDX-License-Identifier: MIT
 
 """A player on Wayland: the compositor shows its whole screen as one window of the X display."""
-import time
-
 import numpy as np
 
 from desktop import wait_for
@@ -14,7 +12,7 @@ LOOK = ("[shell]\npanel-position=none\nbackground-color=0xff000000\nstartup-anim
 
 
 class WaylandPlayer(Player):
-    """Wayland tells no one where windows are. So they are looked for on the black screen, and known by their sizes."""
+    """Wayland tells nobody where windows are. This finds them on the black screen and knows them by size."""
     AFTER_POINTING = ("sleep", 0.1)
     BEFORE_DRAGGING = ("mousemove_relative", 1, 0)  # if it takes the window up late, it waits for the pointer's next step
 
@@ -29,8 +27,7 @@ class WaylandPlayer(Player):
         wait_for("the compositor", lambda: desktop.xdotool("search", "--onlyvisible", "--class", "Weston"))
         # The compositor follows the pointer's steps, not its place: only at the edges both are sure to agree.
         for corner in ((width - 1, height - 1), (0, 0)) * 3:
-            desktop.xdotool("mousemove", *corner)
-            time.sleep(0.1)
+            desktop.xdotool("mousemove", *corner, "sleep", 0.1)
         # On some processors the graphics driver leaks, and it is unloaded before the leak checker looks. So leaks.supp
         # names the library that loaded it, which only a full stack shows.
         desktop.environment |= {"QT_QPA_PLATFORM": "wayland", "WAYLAND_DISPLAY": "screen",

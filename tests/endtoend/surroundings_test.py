@@ -44,13 +44,17 @@ class Surroundings(Case):
                 self.assertEqual(listener.wait(PATIENCE), 0, "it has heard something")
 
     def test_sound_files(self):
-        """A file in the working folder is played instead of the game's own, and is silent if it is cut short."""
-        with self.player(SETTINGS) as player:
-            player.desktop.loudspeaker.touch()
-            for sound in SOUNDS.glob("*.WAV"):
-                (player.desktop.home / sound.name).write_bytes(sound.read_bytes()[:999])
-            self.play_and_leave(player)
-            self.assertFalse(any(player.desktop.loudspeaker.read_bytes()))
+        """A file in the working folder is played instead of the game's own, but not a link to itself."""
+        for target, is_heard in (("cut", False), ("loop", True)):
+            with self.subTest(target), self.player(SETTINGS) as player:
+                home = player.desktop.home
+                (home / "cut").write_bytes((SOUNDS / "son50.WAV").read_bytes()[:999])
+                (home / "loop").symlink_to("loop")
+                for sound in SOUNDS.glob("*.WAV"):
+                    (home / sound.name).symlink_to(target)
+                player.desktop.loudspeaker.touch()
+                self.play_and_leave(player)
+                self.assertEqual(any(player.desktop.loudspeaker.read_bytes()), is_heard)
 
     def test_silent_services(self):
         """The buses, the sound server and the session manager never answer, or the latter answers nonsense."""

@@ -13,7 +13,7 @@ import time
 import model
 from case import PROGRAM, Case, main
 from desktop import PATIENCE, wait_for
-from player import Player
+from player import Player, centre
 
 SETTINGS = "Col=8\nLig=014\n0=0\n3=300\n"  # the program stores Lig=14 when it ends
 
@@ -22,7 +22,7 @@ def reach_removal(player):
     """Presses the largest group. Returns the points for it once its first balls are gone."""
     board = player.board()
     balls = model.groups(board)[-1]
-    player.press(min(balls))
+    player.act(centre(min(balls)), "click", 1)
     wait_for("a move", lambda: player.board() != board)
     return model.points(len(balls))
 
@@ -40,8 +40,12 @@ def reach_about(player):
 
 
 def reach_end_panel(player):
-    _, score = player.play_game(1)
-    return score
+    board, presses = player.deal_game(1)
+    for cell in presses[:-1]:
+        board = player.play(board, cell)
+    reach_removal(player)
+    wait_for("the panel", lambda: "?" in "".join(player.board()))
+    return int(player.stored()["0"])
 
 
 # Each function brings the game into a state, and returns the best score that must be stored if the game ends there.
@@ -70,12 +74,13 @@ class Kills(Case):
         with self.desktop() as desktop:
             for (state, reach), number in zip(REACH.items(), signals):
                 with self.subTest(state=state, signal=number):
-                    player = Player(desktop, PROGRAM, f"{SETTINGS}Son=1\n")
+                    sound = str(int(state == "sound"))
+                    player = Player(desktop, PROGRAM, f"{SETTINGS}Son={sound}\n")
                     best = reach(player)
                     player.process.send_signal(number)
                     self.assertEqual(player.process.wait(PATIENCE), 0)
                     self.assertEqual(player.stored(), {"Col": "8", "Lig": "14", "0": str(best), "3": "300",
-                                                       "Son": "1", "Niveau": "0"})
+                                                       "Son": sound, "Niveau": "0"})
 
     def test_session_end(self):
         """The session manager makes all programs save, and then it ends them; or it dies without a word."""

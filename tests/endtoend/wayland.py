@@ -14,7 +14,8 @@ LOOK = ("[shell]\npanel-position=none\nbackground-color=0xff000000\nstartup-anim
 class WaylandPlayer(Player):
     """Wayland tells nobody where windows are. This finds them on the black screen and knows them by size."""
     AFTER_POINTING = ("sleep", 0.1)
-    BEFORE_DRAGGING = ("mousemove_relative", 1, 0)  # if it takes the window up late, it waits for the pointer's next step
+    # The compositor may start a drag late. Then it waits for the pointer's next step.
+    BEFORE_DRAGGING = ("mousemove_relative", 1, 0)
 
     def __init__(self, desktop, program, settings):
         (desktop.home / "weston.ini").write_text(LOOK)

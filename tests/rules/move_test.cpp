@@ -3,50 +3,57 @@
 
 #include "rules/move.h"
 
+#include "rules/deal.h"
+#include "rules/sound_choice.h"
 #include "tests/rules/board_text.h"
-#include "tests/rules/recorder.h"
+#include "tests/rules/moves.h"
 
 namespace rules {
 namespace {
 
-// A game under way on this board, as if all its cells had been dealt.
-Game gameOn(const Board& board) {
-    Game game{.board = board, .NBBoules = static_cast<std::int16_t>(board.cells.size())};
-    game.Total = static_cast<std::int16_t>(game.NBBoules - std::ranges::count(board.cells, Code::none));
-    return game;
+TEST(Games, GoAsByThePlainRulesFromThousandsOfSeeds) {
+    for (int seed = 0; seed < 4000; ++seed) {
+        Random random(static_cast<std::uint64_t>(seed));
+        Game game{.board = emptyBoard(1 + seed % 13, 1 + seed % 11)};
+        deal(game, seed % 5, std::ref(random));
+        for (int presses = 0; presses < 2 * game.NBBoules; ++presses) {
+            const auto i = static_cast<CellIndex>(random() * static_cast<float>(game.NBBoules));
+            ASSERT_EQ(groupSize(game.board, i), groupSizes(game.board)[i]);
+            ASSERT_EQ(hasGroup(game.board), std::ranges::max(groupSizes(game.board)) > 1);
+            const plain::Outcome plain = plain::press(game.board, i);
+            ASSERT_EQ(press(game, i), plain) << "seed " << seed << ", cell " << i;
+        }
+    }
 }
 
 TEST(Move, EventsComeInTheOrderThePlayerSeesThem) {
-    struct Row {
-        const char *what, *before;
-        int press;
-        const char* events;
+    const std::vector<std::pair<std::string, std::string>> table{
+        {"rr", "Il reste 0 balles sur 2. settled [2008] ended"},
+        {"rrb", "Il reste 1 balles sur 3. settled ended"},
+        {"rrbv", "Il reste 2 balles sur 4. settled "},  // no move is left, but the game has not ended
     };
-    const std::vector<Row> table{
-        {"an ordinary move", "vbv brb brr", 4,
-         "4 yield 5 yield 8 yield [1008] 3 balles crevées (8 points.) son5.WAV Il reste 6 balles sur 9. settled "},
-        {"a cleared board doubles the score after adding the points", "rr", 0,
-         "0 yield 1 yield [1004] 2 balles crevées (4 points.) son2.WAV Il reste 0 balles sur 2. settled [2008] ended"},
-        {"one ball left ends the game without doubling", "rrb", 0,
-         "0 yield 1 yield [1004] 2 balles crevées (4 points.) son2.WAV Il reste 1 balles sur 3. settled ended"},
-        {"two balls without a move left do not end it", "rrbv", 0,
-         "0 yield 1 yield [1004] 2 balles crevées (4 points.) son2.WAV Il reste 2 balles sur 4. settled "},
-    };
-    for (const Row& row : table) {
-        Game game = gameOn(boardOf(row.before));
-        game.score = 1000;
+    for (const auto& [board, end] : table) {
+        const auto balls = static_cast<std::int16_t>(board.size());
+        Game game{.board = boardOf(board), .Total = balls, .NBBoules = balls, .score = 1000};
         Recorder host(game);
-        playMove(game, row.press, host);
-        EXPECT_EQ(host.events, row.events) << row.what;
+        playMove(game, 0, host);
+        EXPECT_EQ(host.events, "0 yield 1 yield [1004] 2 balles crevées (4 points.) son2.WAV " + end) << board;
     }
 }
 
 TEST(Move, LargestGroupIsRemovedWithoutRecursion) {
-    Game game = gameOn({217, 151, std::vector(maxCells, Code::red)});
-    Recorder host(game);
-    playMove(game, 16'000, host);
-    EXPECT_EQ(game.Total, 0);
+    Game game{.board = {217, 151, std::vector(maxCells, Code::red)}, .Total = maxCells};
+    press(game, 16'000);
     EXPECT_EQ(game.score, 2 * std::int64_t{715'806'037});
+}
+
+TEST(Move, SoundsChangeAtThreeElevenFiftyOneAndEightyOneBalls) {
+    std::vector<std::string_view> sounds;
+    for (const int balls : {2, 3, 10, 11, 50, 51, 80, 81}) {
+        sounds.push_back(soundFor(balls));
+    }
+    EXPECT_EQ(sounds, (std::vector<std::string_view>{"son2.WAV", "son5.WAV", "son5.WAV", "son10.WAV", "son10.WAV",
+                                                     "son50.WAV", "son50.WAV", "son80.WAV"}));
 }
 
 }  // namespace

@@ -4,20 +4,21 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "rules/game.h"
-#include "rules/host.h"
+#include "rules/group.h"
+#include "rules/move.h"
+#include "tests/rules/plain.h"
 
 namespace rules {
 
-/// A host that writes down, as text, what a move asks of it.
+/// Writes down what a move tells the window.
 struct Recorder : Host {
     explicit Recorder(const Game& recorded) : game(recorded) {}
 
     const Game& game;
     std::string events;
     std::vector<CellIndex> removed;
+    Landings landings;
 
     void cellCleared(CellIndex i) override {
         removed.push_back(i);
@@ -28,8 +29,19 @@ struct Recorder : Host {
     void lastMoveChanged(std::string_view text) override { events.append(text) += ' '; }
     void remainingChanged(std::string_view text) override { events.append(text); }
     void PlayWave(std::string_view file) override { events.append(file) += ' '; }
-    void boardSettled(const Landings&) override { events += " settled "; }
+    void boardSettled(const Landings& places) override {
+        landings = places;
+        events += " settled ";
+    }
     void gameEnded() override { events += "ended"; }
 };
+
+/// Presses cell i, which need not be on the board.
+inline plain::Outcome press(Game& game, int i) {
+    const int size = game.board.contains(i) ? groupSizes(game.board)[i] : 0;
+    Recorder host(game);
+    playMove(game, i, host);
+    return {size, host.removed, host.landings, game.board};
+}
 
 }  // namespace rules

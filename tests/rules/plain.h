@@ -4,83 +4,78 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
-#include <vector>
+#include <tuple>
 
-#include "rules/game.h"
+#include "rules/settle.h"
 
-/// The rules in their plainest form, pass by pass and cell by cell: too slow or too deep to play with, simple
-/// enough to be trusted. What the game runs on must equal them.
+/// The rules in their plainest form, pass by pass and cell by cell: too slow and too deep for the game, but simple
+/// enough to be trusted. The rules of the game must give the same results.
 namespace plain {
 
 using rules::Board;
-using rules::CellIndex;
 using rules::Code;
 
-inline CellIndex index(int i) {
-    return static_cast<CellIndex>(i);
-}
-
 inline void settle(Board& board) {
-    const auto moveContent = [&](int from, int to) {
-        board[index(to)] = board[index(from)];
-        board[index(from)] = Code::none;
-    };
-    const int cells = static_cast<int>(board.cells.size());
+    auto& cells = board.cells;
     for (int pass = 0; pass < board.NbLig; ++pass) {
-        for (int i = cells - 1; i >= 0; --i) {
-            if (i % board.NbLig > 0 && board[index(i)] == Code::none) {
-                moveContent(i - 1, i);
+        for (std::size_t i = cells.size() - 1; i > 0; --i) {
+            if (i % board.NbLig > 0 && cells[i] == Code::none) {
+                std::swap(cells[i], cells[i - 1]);
             }
         }
     }
-    for (int col = board.NbCol - 1; col >= 0; --col) {
-        const auto top = board.cells.begin() + static_cast<std::ptrdiff_t>(col) * board.NbLig;
-        if (std::all_of(top, top + board.NbLig, [](Code code) { return code == Code::none; })) {
-            for (int i = (col + 1) * board.NbLig; i < cells; ++i) {
-                moveContent(i, i - board.NbLig);
-            }
+    for (auto column = cells.end(); column != cells.begin();) {
+        column -= board.NbLig;
+        if (column[board.NbLig - 1] == Code::none) {  // no ball lies on the bottom row
+            std::rotate(column, column + board.NbLig, cells.end());
         }
     }
 }
 
-/// Clears the group of cell K recursively and appends each cell in the order of its removal.
-inline void efface(Board& board, int K, Code t, std::vector<CellIndex>& removed) {
-    board[index(K)] = Code::none;
-    removed.push_back(index(K));
-    const int col = K / board.NbLig;
-    const int row = K - col * board.NbLig;
-    if (row > 0 && board[index(K - 1)] == t) {
-        efface(board, K - 1, t, removed);
+/// Where each ball of `before` is in `after`: no ball overtakes another, so the first one is still the first.
+inline rules::Landings landings(const Board& before, const Board& after) {
+    rules::Landings landings;
+    rules::CellIndex next = 0;
+    for (const Code ball : before.cells) {
+        while (ball != Code::none && after[next] == Code::none) {
+            ++next;
+        }
+        landings.push_back(ball == Code::none ? rules::noCell : next++);
     }
-    if (row < board.NbLig - 1 && board[index(K + 1)] == t) {
-        efface(board, K + 1, t, removed);
-    }
-    if (col > 0 && board[index(K - board.NbLig)] == t) {
-        efface(board, K - board.NbLig, t, removed);
-    }
-    if (col < board.NbCol - 1 && board[index(K + board.NbLig)] == t) {
-        efface(board, K + board.NbLig, t, removed);
-    }
+    return landings;
 }
 
-/// Plays the press of any cell, on the board or not: the cells that it clears, in order.
-inline std::vector<CellIndex> press(rules::Game& game, int i) {
-    Board board = game.board;
-    std::vector<CellIndex> removed;
-    if (i >= 0 && i < board.NbCol * board.NbLig && board[index(i)] != Code::none) {
-        plain::efface(board, i, board[index(i)], removed);
+/// Removes the ball at this place and the balls of the same colour t around it. Appends their cells in this order.
+inline void efface(Board& board, int col, int row, Code t, std::vector<rules::CellIndex>& removed) {
+    const auto cell = static_cast<rules::CellIndex>(col * board.NbLig + row);
+    if (col < 0 || col >= board.NbCol || row < 0 || row >= board.NbLig || board[cell] != t) {
+        return;
+    }
+    board[cell] = Code::none;
+    removed.push_back(cell);
+    plain::efface(board, col, row - 1, t, removed);
+    plain::efface(board, col, row + 1, t, removed);
+    plain::efface(board, col - 1, row, t, removed);
+    plain::efface(board, col + 1, row, t, removed);
+}
+
+/// What a press does: the size of the group, the cells that lose their balls, in this order, where the other balls
+/// land, and the board that is left.
+using Outcome = std::tuple<std::size_t, std::vector<rules::CellIndex>, rules::Landings, Board>;
+
+/// Presses cell i, which need not be on the board.
+inline Outcome press(const Board& board, int i) {
+    Board cleared = board;
+    std::vector<rules::CellIndex> removed;
+    for (const Code t : rules::codes) {
+        plain::efface(cleared, i / board.NbLig, i % board.NbLig, t, removed);
     }
     if (removed.size() < 2) {
-        return {};
+        return {removed.size(), {}, {}, board};
     }
-    plain::settle(board);
-    game.board = board;
-    const auto n = static_cast<double>(removed.size());
-    game.score += static_cast<std::int64_t>(std::floor(n * (n + 1) / 1.5));
-    game.Total = index(game.Total - static_cast<int>(removed.size()));
-    game.score *= game.Total == 0 ? 2 : 1;
-    return removed;
+    Board settled = cleared;
+    plain::settle(settled);
+    return {removed.size(), removed, landings(cleared, settled), settled};
 }
 
 }  // namespace plain

@@ -4,24 +4,26 @@
 // Four lines: the texts of the two boxes, and the screen's width and height in twips.
 
 #include <algorithm>
-#include <string>
 
-#include <QStringList>
+#include <QRegularExpression>
 
 #include "mainwindow/board_size.h"
 #include "rules/board.h"
 #include "tests/fuzz/target.h"
 
-using mainwindow::BoardSize;
-
 namespace {
 
-int plainNumber(const std::u16string& text) {
-    std::string ascii;
-    for (const char16_t c : text) {
-        ascii += c < 0x80 && (c < u'\n' || c > u'\r') ? static_cast<char>(c) : 'x';  // line breaks are no blanks here
+int plainNumber(const QString& text) {
+    static const QRegularExpression start(QStringLiteral("^[ \t]*([-+]?[0-9]+)"));
+    return static_cast<int>(std::clamp(start.match(text).captured(1).toDouble(), -1e6, 1e6));
+}
+
+// The largest number of cells, at most `count`, that fits in this length; but at least one.
+int plainFit(int count, int length) {
+    while (count > 1 && count * 300 + 600 > length) {
+        --count;
     }
-    return static_cast<int>(std::clamp(std::strtoll(ascii.c_str(), nullptr, 10), -1'000'000LL, 1'000'000LL));
+    return count;
 }
 
 }  // namespace
@@ -29,22 +31,16 @@ int plainNumber(const std::u16string& text) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const QStringList lines = QString::fromStdString({data, data + size}).split(u'\n');
     const auto number = [&lines](qsizetype line) {
-        const std::u16string text = lines.value(line).toStdU16String();
-        law(mainwindow::leadingNumber(text) == plainNumber(text), "a text is the number at its start");
+        const QString text = lines.value(line);
+        law(mainwindow::leadingNumber(text.toStdU16String()) == plainNumber(text), "a text is the number at its start");
         return plainNumber(text);
     };
-    const mainwindow::Space space{number(2), number(3), 2670};
-    const BoardSize board = mainwindow::fittingSize({number(0), number(1)}, space);
-
-    const auto fit = [](int count, int least, int length) {
-        for (count = std::clamp(count, least, 1000); count > 1 && count * 300 + 600 > length;) {
-            --count;
-        }
-        return count;
-    };
-    BoardSize plain{fit(number(0), 8, space.screenWidth - space.panelWidth), fit(number(1), 14, space.screenHeight)};
+    const auto board = mainwindow::fittingSize({number(0), number(1)}, {number(2), number(3), 2670});
+    mainwindow::BoardSize plain{plainFit(std::clamp(number(0), 8, 1000), number(2) - 2670),
+                                plainFit(std::clamp(number(1), 14, 1000), number(3))};
     while (plain.NbCol * plain.NbLig > rules::maxCells) {
-        --(plain.NbLig > plain.NbCol ? plain.NbLig : plain.NbCol);
+        int& longer = plain.NbLig > plain.NbCol ? plain.NbLig : plain.NbCol;
+        --longer;
     }
     law(board == plain, "a board is clamped, then as large as the screen and the indices allow");
     return 0;

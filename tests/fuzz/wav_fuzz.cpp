@@ -3,8 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
-#include <string>
 
 #include "platform/sound/sound_file.h"
 #include "tests/fuzz/target.h"
@@ -17,17 +15,15 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     law(samples == platform::decodeWav(file), "the same bytes are the same sound");
 
     // The plain file with the numbers of this header, which may be much longer than what we were given.
+    WavFile plain{.between = {"note\1\0\0\0x\0", 10}};
+    std::uint32_t length = 0;
     file.resize(std::max<std::size_t>(size, 44));
-    const auto number = [&file]<typename Number>(std::size_t at, Number) {
-        Number value = 0;
-        std::memcpy(&value, &file[at], sizeof value);
-        return value;
-    };
-    const WavFile plain{.data = std::string(number(40, 0U) % 600'000, '@'),
-                        .channels = number(22, std::uint16_t{}),
-                        .bits = static_cast<std::uint16_t>(file[34] == 16 ? 16 : 8),
-                        .rate = number(24, 0U),
-                        .between = {"note\1\0\0\0x\0", 10}};
+    std::memcpy(&plain.channels, &file[22], sizeof plain.channels);
+    std::memcpy(&plain.rate, &file[24], sizeof plain.rate);
+    std::memcpy(&length, &file[40], sizeof length);
+    plain.bits = file[34] == 16 ? 16 : 8;
+    plain.data = std::string(length % 600'000, '@');
+
     const bool isKnown = plain.channels >= 1 && plain.channels <= 2 && plain.rate >= 8000 && plain.rate <= 48000;
     const int frames = static_cast<int>(plain.data.size()) / std::max(plain.channels * plain.bits / 8, 1);
     const double seconds = frames / std::max<double>(plain.rate, 1);
@@ -37,7 +33,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         "what is fit plays to its end, and nothing else");
     // A 16-bit "@@" and an 8-bit "@" are half as loud as can be.
     law(played < 200 || std::abs(std::abs(sound[sound.size() / 2]) - 16'400) < 200, "it is as loud as it was");
-    const std::string cut = plain.bytes().substr(0, 53 + plain.data.size() - number(40, 0U) / 600'000 % 50);
+    const std::string cut = plain.bytes().substr(0, 53 + plain.data.size() - length / 600'000 % 50);
     law(platform::decodeWav(cut).empty(), "what is cut short does not play");
     return 0;
 }

@@ -22,6 +22,7 @@ TEST(Games, GoAsByThePlainRulesFromThousandsOfSeeds) {
             ASSERT_EQ(hasGroup(game.board), std::ranges::max(groupSizes(game.board)) > 1);
             const plain::Outcome plain = plain::press(game.board, i);
             ASSERT_EQ(press(game, i), plain) << "seed " << seed << ", cell " << i;
+            ASSERT_EQ(game.Total, game.NBBoules - std::ranges::count(game.board.cells, Code::none));
         }
     }
 }

@@ -5,12 +5,13 @@
 
 #include <cstdlib>
 
-#include <QLabel>
-#include <QPainter>
+#include <QPixmap>
+#include <gtest/gtest.h>
 
+#include "platform/label.h"
 #include "platform/look.h"
 
-/// How much of a picture differs from the windows' colour.
+/// How much a picture differs from the background colour of the windows.
 inline int ink(const QPixmap& picture) {
     const QImage image = picture.toImage();
     int sum = 0;
@@ -22,21 +23,16 @@ inline int ink(const QPixmap& picture) {
     return sum;
 }
 
-/// A label's text in a font, far from any edge.
-inline QPixmap unclipped(const QLabel& label, const QFont& font) {
-    const double ratio = label.devicePixelRatioF();
-    QPixmap text(QSize(800, 200) * ratio);
-    text.setDevicePixelRatio(ratio);
-    text.fill(Qt::transparent);
-    QPainter painter(&text);
-    painter.setFont(font);
-    painter.setPen(label.palette().color(QPalette::WindowText));
-    const bool wraps = label.wordWrap();
-    const QRect room(20, 20, label.width() + (wraps ? 0 : 400), 160);
-    painter.drawText(room, static_cast<int>(label.alignment()) | (wraps ? Qt::TextWordWrap : 0), label.text());
-    QPixmap picture(text.size());
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(platform::steelBlue);
-    QPainter(&picture).drawPixmap(0, 0, text);
-    return picture;
+/// Expects that a label shows its whole text in this font: it has as much ink as a label of Qt with more room. A
+/// tolerance of about one pixel is for roundings.
+inline void expectWholeText(platform::Label& label, const QFont& font) {
+    constexpr int room = 20;
+    QLabel roomy(label.text());
+    roomy.setFont(font);
+    roomy.setPalette(label.palette());
+    roomy.setAlignment(label.alignment());
+    roomy.setWordWrap(label.wordWrap());
+    roomy.setMargin(room);
+    roomy.resize(label.width() + 2 * room + (label.wordWrap() ? 0 : 400), 200);
+    EXPECT_NEAR(ink(label.grab()), ink(roomy.grab()), 200) << qPrintable(label.text());
 }

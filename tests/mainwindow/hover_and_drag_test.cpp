@@ -5,95 +5,69 @@
 #include "tests/mainwindow/world.h"
 
 namespace mainwindow {
-namespace {
-
-// The buttons that show their hover face, by their index.
-std::string lit(const World& world) {
-    const platform::Picture hoverFace = world.control<platform::PictureBox>("BTN", 1)->picture();
-    std::string found;
-    for (int i = 0; i < 3; ++i) {
-        if (world.control<platform::PictureBox>("ImBTN", i)->picture() == hoverFace) {
-            found += std::to_string(i);
-        }
-    }
-    return found;
-}
 
 TEST(HoverAndDrag, ButtonsAndPreviewFollowThePointer) {
     World world;
     world.set("0", "10");
     world.set("3", "40");
+    world.seed = 8;  // deals a lone ball at the upper left
     world.open();
-    struct Row {
-        const char *name, *lit, *best;
-        int index = -1;
+    constexpr int none = -1;
+    const platform::Picture hoverFace = world.control<platform::PictureBox>("BTN", 1)->picture();
+    const auto expect = [&](int lit, const char* best, const char* where) {
+        for (int i = 0; i < 3; ++i) {
+            const bool isLit = world.control<platform::PictureBox>("ImBTN", i)->picture() == hoverFace;
+            EXPECT_EQ(isLit, i == lit) << "button " << i << ", pointer at " << where;
+        }
+        EXPECT_EQ(world.text("Label4"), best) << "pointer at " << where;
     };
-    const std::vector<Row> table{
-        {"Option1", "", "40", 3}, {"sc", "", "40"},        {"Label5", "", "40", 0},  {"Shape1", "", "10"},
-        {"ImBTN", "0", "10", 0},  {"Text1", "0", "10", 0}, {"Check1", "0", "10"},    {"Image1", "0", "10"},
-        {"LabBtn", "1", "10", 1}, {"l1", "", "10", 0},     {"LabBtn", "2", "10", 2}, {"Label4", "", "10"},
-        {"ImBTN", "1", "10", 1},  {"Option1", "", "0", 4}, {"l1", "", "0", 3},       {"LabBtn", "0", "0", 0},
-        {"Label3", "", "0"},      {"ImBTN", "2", "0", 2},  {"Label2", "", "0"},      {"Shape1", "", "10"},
+    const std::vector<std::tuple<const char*, int, int, const char*>> table{
+        {"Option1", 3, none, "40"}, {"ImBTN", 0, 0, "40"}, {"Text1", 0, 0, "40"},      {"LabBtn", 1, 1, "40"},
+        {"sc", -1, none, "40"},     {"ImBTN", 2, 2, "40"}, {"Shape1", -1, none, "10"}, {"LabBtn", 0, 0, "10"},
+        {"Option1", 4, none, "0"},  {"LabBtn", 2, 2, "0"}, {"Image1", -1, 2, "0"},     {"ImBTN", 1, 1, "0"},
     };
-    for (const Row& row : table) {
-        world.hover(world.control<QWidget>(row.name, row.index));
-        EXPECT_EQ(lit(world), row.lit) << row.name;
-        EXPECT_EQ(world.text("Label4"), row.best) << row.name;
+    for (const auto& [name, index, lit, best] : table) {
+        world.hover(world.control<QWidget>(name, index));
+        expect(lit, best, name);
     }
-}
-
-TEST(HoverAndDrag, OnlyTheBackgroundOfTheWindowAnswersTheMouse) {
-    World world;
-    world.set("3", "40");
-    world.open();
-    const std::vector<std::tuple<const char*, QPoint, bool>> table{
-        {"a cell", {43, 43}, false}, {"the border", {5, 50}, false}, {"the background", {20, 40}, true}};
-    for (const auto& [what, place, answers] : table) {
-        world.hover(world.control<QWidget>("Option1", 3));
-        world.hover(world.control("LabBtn", 1));
-        world.hover(place);
-        EXPECT_EQ(lit(world), answers ? "" : "1") << what;
-        EXPECT_EQ(world.text("Label4"), answers ? "0" : "40") << what;
-    }
-    world.hover(world.control("LabBtn", 1));
-    const QPoint background(20, 40);
-    QMouseEvent held(QEvent::MouseMove, background, background, Qt::NoButton, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(world.window.get(), &held);
-    EXPECT_EQ(lit(world), "1") << "a button is held that was pressed on a cell";
-    world.press(0);
-    EXPECT_EQ(lit(world), "") << "a press on a cell";
+    world.hover({43, 43});
+    expect(1, "0", "a cell");
+    world.hover({5, 50});
+    expect(1, "0", "the border");
+    QTest::mousePress(world.window->windowHandle(), Qt::LeftButton, {}, {43, 43});
+    expect(none, "0", "a cell that is pressed");
+    world.hover({20, 41});
+    expect(none, "0", "the background, while the button is down");
+    QTest::mouseRelease(world.window->windowHandle(), Qt::LeftButton, {}, {20, 41});
+    world.hover({20, 40});
+    expect(none, "10", "the background");
 }
 
 TEST(HoverAndDrag, DragLastsFromThePressToTheReleaseOfItsButton) {
     World world;
     world.open("rb rb");
-    auto& window = *world.window;
-    const QPoint start = window.pos();
+    const QPoint start = world.window->pos();
     const QPoint grip(20, 25);
-    const auto mouse = [&](QEvent::Type type, QPoint offset, Qt::MouseButton button, Qt::MouseButtons held) {
-        QMouseEvent event(type, grip, start + grip + offset, button, held, {});
-        QCoreApplication::sendEvent(&window, &event);
-        return window.pos() - start;
-    };
-    using Type = QEvent::Type;
+    using enum QEvent::Type;
     const auto left = Qt::LeftButton;
     const auto right = Qt::RightButton;
-    mouse(Type::MouseButtonPress, {}, right, right);
-    EXPECT_EQ(mouse(Type::MouseMove, {30, -9}, {}, right), QPoint(30, -9));
-    EXPECT_EQ(mouse(Type::MouseButtonPress, {31, 9}, left, left | right), QPoint(30, -9)) << "another button";
-    EXPECT_EQ(mouse(Type::MouseButtonDblClick, {31, 9}, left, left | right), QPoint(30, -9));
-    EXPECT_EQ(mouse(Type::MouseButtonRelease, {40, 9}, left, right), QPoint(40, 9));
-    EXPECT_EQ(mouse(Type::MouseButtonRelease, {-500, 44}, right, {}), QPoint(-500, 44)) << "out of the window";
-    EXPECT_EQ(mouse(Type::MouseMove, {60, 60}, {}, {}), QPoint(-500, 44)) << "after the release";
-    window.move(start);
-    mouse(Type::MouseButtonPress, {}, left, left);
-    EXPECT_EQ(mouse(Type::MouseMove, {5, 5}, {}, {}), QPoint()) << "the release was heard by nobody";
-    EXPECT_EQ(mouse(Type::MouseMove, {6, 6}, {}, left), QPoint()) << "and the drag is over";
-    mouse(Type::MouseButtonPress, {}, left, left);
-    EXPECT_EQ(world.game().board, boardOf("rb rb"));
+    const auto mouse = [&](QEvent::Type type, QPoint way, Qt::MouseButton button, Qt::MouseButtons held) {
+        QMouseEvent event(type, grip, start + grip + way, button, held, {});
+        QCoreApplication::sendEvent(world.window.get(), &event);
+        return world.window->pos() - start;
+    };
+    mouse(MouseButtonPress, {}, right, right);
+    EXPECT_EQ(mouse(MouseMove, {30, -9}, {}, right), QPoint(30, -9));
+    EXPECT_EQ(mouse(MouseButtonPress, {31, 9}, left, left | right), QPoint(30, -9)) << "another button";
+    EXPECT_EQ(mouse(MouseButtonDblClick, {31, 9}, left, left | right), QPoint(30, -9));
+    EXPECT_EQ(mouse(MouseButtonRelease, {40, 9}, left, right), QPoint(40, 9));
+    EXPECT_EQ(mouse(MouseButtonRelease, {-500, 44}, right, {}), QPoint(-500, 44)) << "outside the window";
+    mouse(MouseButtonPress, {-500, 44}, left, left);
+    EXPECT_EQ(mouse(MouseMove, {5, 5}, {}, {}), QPoint(-500, 44)) << "the window has missed the release";
+    EXPECT_EQ(mouse(MouseMove, {6, 6}, {}, left), QPoint(-500, 44)) << "so the drag is over";
+    mouse(MouseButtonPress, {-500, 44}, left, left);
     world.press(0);
-    EXPECT_EQ(world.game().board, boardOf("b. b.")) << "nor was this one, as the press tells";
+    EXPECT_EQ(world.game().board, boardOf("b. b.")) << "this press shows that the window has missed a release";
 }
 
-}  // namespace
 }  // namespace mainwindow

@@ -2,76 +2,63 @@
 // SPDX-License-Identifier: MIT
 
 #include <QAbstractButton>
-#include <QFontMetrics>
-#include <QStyle>
 
-#include "platform/label.h"
 #include "tests/ink.h"
 #include "tests/mainwindow/world.h"
 
 namespace mainwindow {
-namespace {
 
-TEST(Layout, NoTextIsClipped) {
+TEST(Layout, EveryTextIsWholeAndInFront) {
     World world;
     world.open();
     for (auto* label : world.window->findChildren<platform::Label*>()) {
-        if (!label->objectName().startsWith(u"hsc")) {
-            EXPECT_EQ(ink(label->grab()), ink(unclipped(*label, label->font()))) << qPrintable(label->objectName());
-        }
+        expectWholeText(*label, label->font());
     }
     for (const auto* button : world.window->findChildren<QAbstractButton*>()) {
-        const int room = button->width() - button->style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth) -
-                         button->style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing);
-        EXPECT_LE(QFontMetrics(button->font()).horizontalAdvance(button->text()), room) << qPrintable(button->text());
+        EXPECT_LE(button->sizeHint().width(), button->width()) << qPrintable(button->text());
     }
-}
-
-TEST(Layout, LongestStatusLinesAreCondensedToTheirLabels) {
-    World world;
-    world.open();
-    auto* line = world.control("l1", 0);
-    for (const auto& [text, isCondensed] : {std::pair{u"32767 balles crevées (715806037 points.)"_s, true},
-                                            std::pair{u"2 balles crevées (4 points.)"_s, false}}) {
-        const QFont font = platform::condensed(line->font(), text, line->width());
-        EXPECT_LE(QFontMetrics(font).horizontalAdvance(text), line->width()) << qPrintable(text);
-        EXPECT_EQ(font.stretch() < QFont::Unstretched, isCondensed) << qPrintable(text);
-        line->setText(text);
-        EXPECT_EQ(ink(line->grab()), ink(unclipped(*line, font))) << qPrintable(text);
-    }
-}
-
-TEST(Layout, ControlsThatOverlapAreStackedAsThePlayerNeedsThem) {
-    World world;
-    world.open();
-    auto* Frame2 = world.control<QWidget>("Frame2");
     for (int i = 0; i < 3; ++i) {
-        auto* caption = world.control("LabBtn", i);
-        EXPECT_EQ(Frame2->childAt(caption->geometry().center()), caption) << "the caption lies on its button";
+        const auto* caption = world.control("LabBtn", i);
+        EXPECT_EQ(caption->parentWidget()->childAt(caption->geometry().center()), caption) << "behind its button";
     }
-    auto* reset = world.control<QWidget>("ImBTN", 2);
-    EXPECT_EQ(Frame2->childAt(reset->geometry().topLeft() + QPoint(3, 3)), reset) << "the outline lets clicks through";
     EXPECT_FALSE(world.control("Label2")->geometry().intersects(world.control("Label4")->geometry()));
+    auto* line = world.control<platform::Label>("l1", 0);
+    line->setText(u"32767 balles crevées (715806037 points.)"_s);
+    const QFont font = platform::condensed(line->font(), line->text(), line->width());
+    EXPECT_LE(QFontMetrics(font).horizontalAdvance(line->text()), line->width());
+    expectWholeText(*line, font);
 }
 
-TEST(Layout, TabGoesFromTheBoardToTheSelectedOptionTheBoxesAndTheSwitch) {
+TEST(NewGame, WindowAfterASecondGameIsThatOfAFirstOne) {
+    World first;
+    first.set("Col", "12");
+    first.set("Lig", "16");
+    first.open();
     World world;
-    world.set("Niveau", "2");
     world.open();
-    world.window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(world.window.get()));
-    const auto expectFocus = [&](const char* stop) {
-        EXPECT_STREQ(qPrintable(world.window->focusWidget()->objectName()), stop);
-    };
-    for (const char* stop : {"c", "Option1(2)", "Text1(1)", "Text1(0)", "Check1", "c"}) {
-        expectFocus(stop);
-        QTest::keyClick(world.window->focusWidget(), Qt::Key_Tab);
-    }
-    for (const char* stop : {"Option1(2)", "c", "Check1", "Text1(0)", "Text1(1)"}) {
-        expectFocus(stop);
-        QTest::keyClick(world.window->focusWidget(), Qt::Key_Backtab);
+    for (const char* size : {"40", "8"}) {  // from a larger board, then from a smaller one
+        world.type(size, size);
+        world.command(0);
+        EXPECT_NE(world.window->size(), first.window->size());
+        world.type("12", "16");
+        world.command(0);
+        EXPECT_EQ(world.window->grab().toImage(), first.window->grab().toImage()) << "after " << size;
     }
 }
 
-}  // namespace
+TEST(NewGame, ClickIsALeftPressAndReleaseOnTheSameButton) {
+    World world;
+    world.open();
+    world.seed = 7;
+    const rules::Board before = world.game().board;
+    auto* picture = world.control<QWidget>("ImBTN", 0);
+    QTest::mouseClick(picture, Qt::RightButton);
+    QTest::mousePress(picture, Qt::LeftButton);
+    QTest::mouseRelease(picture, Qt::LeftButton, {}, {-20, 5});
+    QTest::mouseRelease(picture, Qt::LeftButton);
+    EXPECT_EQ(world.game().board, before);
+    QTest::mouseClick(picture, Qt::LeftButton);
+    EXPECT_NE(world.game().board, before);
+}
+
 }  // namespace mainwindow

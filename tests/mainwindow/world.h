@@ -40,7 +40,7 @@ struct RecordedSound : platform::Sound {
     }
 };
 
-/// One main window in a world of its own: settings in memory, chosen seed and screen, a clock that never makes wait.
+/// A main window with its settings in memory, a chosen seed, a chosen screen, and a clock that does not wait.
 struct World {
     settings::Store store{QString()};
     RecordedSound sound;
@@ -51,8 +51,8 @@ struct World {
     std::function<void()> inPause = [] {};
     std::unique_ptr<balls> window;
 
-    /// Opens the window, on a board of two colours if one is given: on a screen that holds just this board, with a
-    /// seed that deals it.
+    /// Opens the window. If a board of two colours is given, the screen has room for just this board, and the seed is
+    /// one that deals it.
     void open(const char* board = nullptr) {
         if (board != nullptr) {
             arrange(boardOf(board));
@@ -75,17 +75,13 @@ struct World {
     const rules::Game& game() const { return window->currentGame(); }
     BoardWidget* cells() const { return control<BoardWidget>("c"); }
     std::string stored(const char* key) const {
-        return store.read(u"init"_s, QString::fromLatin1(key), u"absent"_s).toStdString();
+        return store.read(u"init"_s, QLatin1String(key), u"absent"_s).toStdString();
     }
-    void set(const char* key, const char* text) {
-        store.write(u"init"_s, QString::fromLatin1(key), QString::fromUtf8(text));
-    }
+    void set(const char* key, const char* text) { store.write(u"init"_s, QLatin1String(key), QLatin1String(text)); }
 
     template <typename Widget = QLabel>
     Widget* control(const char* name, int index = -1) const {
-        auto* found = window->findChild<Widget*>(platform::controlName(name, index));
-        EXPECT_NE(found, nullptr) << name << '(' << index << ')';
-        return found;
+        return platform::control<Widget>(*window, name, index);
     }
     std::string text(const char* name, int index = -1) const { return control(name, index)->text().toStdString(); }
     std::string box(int index) const { return control<platform::TextBox>("Text1", index)->text().toStdString(); }
@@ -122,15 +118,16 @@ struct World {
         return about == windows.end() ? window.get() : *about;
     }
 
-    /// Removes the first group of a board that ends with that move.
-    void finish() const {
-        press(0);
-        EXPECT_TRUE(control<QWidget>("Frame1")->isVisible());
+    /// Types a key into the control with the focus.
+    void key(QKeyCombination key) const {
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        QTest::keyClick(window->focusWidget(), key.key(), key.keyboardModifiers());
     }
 
-    /// Moves the pointer as the window system tells of it: which control hears of it is the toolkit's decision.
+    /// Moves the pointer as the window system does, so that Qt finds the control below it.
     void hover(QPoint place) const { QTest::mouseMove(window->windowHandle(), place); }
-    /// The same, to where a control shows that nothing else covers: near its corner.
+    /// Moves the pointer near the corner of a control, where nothing else covers it.
     void hover(const QWidget* control) const {
         hover(control->mapTo(window.get(), QPoint(control->width() - 3, control->height() - 3)));
     }
@@ -140,12 +137,11 @@ struct World {
         screen.Width = board.NbCol * 300 + 600 + 2670;
         screen.Height = board.NbLig * 300 + 600;
         rules::Game dealt;
-        for (seed = 0; dealt.board != board; ++seed) {
+        while (dealt.board != board) {
             ASSERT_LT(seed, 100'000) << "no deal looks like\n" << rules::print(board);
             rules::resizeBoard(dealt, board.NbCol, board.NbLig);
-            rules::deal(dealt, 0, rules::Random(seed));
+            rules::deal(dealt, 0, rules::Random(++seed));
         }
-        --seed;
     }
 };
 

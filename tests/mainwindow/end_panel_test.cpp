@@ -10,7 +10,7 @@ TEST(EndPanel, CoversTheBoardUntilItIsClickedOrLeftWithAKeyOrANewGameBegins) {
     world.set("4", "1000");
     world.open("r r b");
     // The preview of another level's best score does not count.
-    world.sound.meanwhile = [&] { world.hover(world.control<QWidget>("Option1", 4)); };
+    world.sound.meanwhile = [&] { QTest::mouseMove(world.control<QWidget>("Option1", 4)); };
     auto* panel = world.control<QWidget>("Frame1");
     const auto* ball = world.control<QWidget>("ip");
     const auto isBold = [&] { return world.control("sc")->font().bold() && world.control("Label3")->font().bold(); };

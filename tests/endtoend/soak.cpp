@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-// A bot plays in the real window, without pauses. Each time that another test program is to look at this one, it says
-// what it holds and waits for a line. Usage: soak games TIMES GAMES, or soak panel|about TIMES SECONDS
+// Usage: soak games|panel|about ROUNDS. A bot plays in the real window without pauses, or leaves the end-of-game panel
+// or the About window open. After each round, it prints what the program holds, and waits for a line while soak.py
+// measures the rest.
 
 #include <iostream>
-#include <stdexcept>
 
 #include <QAbstractEventDispatcher>
-#include <QTimer>
 #include <malloc.h>
 
 #include "platform/look.h"
@@ -20,42 +19,30 @@ namespace {
 struct Bot : mainwindow::World {
     std::mt19937 chance;
 
-    void deal(int level, const char* Col) {
-        select(level);
-        type(Col, "14");
+    void playGame() {
+        select(static_cast<int>(chance() % rules::levels));
         command(0);
-    }
-    void play() {
         while (pressAnyGroup(chance)) {
-        }
-    }
-    void waitForWindow() {
-        if (!QTest::qWaitForWindowExposed(shown())) {
-            throw std::runtime_error("no window");
         }
     }
     void openAbout() {
         QTest::mouseClick(control<QWidget>("Image1"), Qt::LeftButton);
-        waitForWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(shown()));
     }
-
-    void playGames(int games) {
-        for (int game = 0; game < games; ++game) {
-            deal(static_cast<int>(chance() % 5), chance() % 3 == 0 ? "9" : "8");
-            play();
-            if (game % 5 == 0) {
-                QTest::mouseClick(control<QWidget>("Frame1"), Qt::LeftButton);
-            }
-            if (game % 10 == 0) {
-                openAbout();
-                shown()->close();
-                waitForWindow();
-            }
+    void playGames() {
+        for (int game = 0; game < 50; ++game) {
+            type(game % 2 == 0 ? "9" : "8", "14");
+            playGame();
         }
-        deal(0, "8");
+        for (int visit = 0; visit < 5; ++visit) {
+            openAbout();
+            shown()->close();
+            EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        }
+        command(0);
     }
 
-    void tell(const char* unit, int number) {
+    void report() const {
         QGuiApplication::sync();
         const auto objects = window->findChildren<QObject*>() + shown()->findChildren<QObject*>() + qApp->children() +
                              QObjectList{window.get(), shown()};
@@ -64,32 +51,15 @@ struct Bot : mainwindow::World {
             timers += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
         }
         const auto memory = mallinfo2();
-        std::cout << unit << ' ' << number << " timers " << timers << " objects " << objects.size() << " heap "
-                  << memory.uordblks + memory.hblkhd << std::endl;
+        std::cout << "timers " << timers << " objects " << objects.size() << " heap " << memory.uordblks + memory.hblkhd
+                  << std::endl;
         std::cin.ignore();
-    }
-
-    void run(const std::string& what, int times, int each) {
-        waitForWindow();
-        if (what == "about") {
-            openAbout();
-        }
-        while (what == "panel" && !control<QWidget>("Frame1")->isVisible()) {
-            deal(0, "8");
-            play();
-        }
-        for (int k = 1; k <= times; ++k) {
-            what == "games" ? playGames(each) : QTest::qWait(1000 * each);
-            tell(what == "games" ? "game" : "second", k * each);
-        }
-        QCoreApplication::exit();
     }
 };
 
 }  // namespace
 
-int main(int, char* argv[]) {
-    int argc = 1;
+int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     platform::applyLook();
@@ -97,10 +67,21 @@ int main(int, char* argv[]) {
     bot.store = settings::Store(settings::defaultPath(QCoreApplication::applicationFilePath()));
     bot.nextSeed = std::ref(bot.chance);
     bot.inPause = platform::yield;
+    bot.set("Son", "0");
     bot.open();
-    const std::string what = argv[1];
-    const int times = std::atoi(argv[2]);
-    const int each = std::atoi(argv[3]);
-    QTimer::singleShot(0, qApp, [&] { bot.run(what, times, each); });
-    return QApplication::exec();
+    const std::string mode = argv[1];
+    if (mode == "about") {
+        bot.openAbout();
+    }
+    while (mode == "panel" && !bot.control<QWidget>("Frame1")->isVisible()) {
+        bot.playGame();
+    }
+    for (int round = std::atoi(argv[2]); round > 0; --round) {
+        if (mode == "games") {
+            bot.playGames();
+        } else {
+            QTest::qWait(60'000);
+        }
+        bot.report();
+    }
 }

@@ -15,7 +15,6 @@ from desktop import Desktop
 from player import Player
 
 PROGRAM, FOLDER = (pathlib.Path(path).resolve() for path in sys.argv[1:3])
-FAULTS = PROGRAM.parents[1] / "tests" / "faults" / "libfaults.so"
 
 
 class Case(unittest.TestCase):

@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/number.h"
 #include "tests/settings/folder.h"
 
 namespace {
@@ -19,17 +18,21 @@ struct BestScores : testing::Test {
     settings::BestScores scores{store, 5};
 };
 
-TEST(Number, IsReadStrictlyAndSpeltPlainly) {
-    for (const QString& text : {u""_s, u"12x"_s, u"1,000"_s, u"0x10"_s, u"nan"_s, u"-inf"_s, u"1e999"_s}) {
-        EXPECT_EQ(settings::numberIn(text), std::nullopt) << testing::PrintToString(text);
-    }
-    EXPECT_EQ(settings::plainDecimal(1e15), u"1000000000000000"_s);
-}
-
 TEST_F(BestScores, FollowAScoreThatPassesThemOrAnotherCopysThatIsAsHighAndAReset) {
     const std::vector<std::array<QString, 3>> rows = {
-        {u"120"_s, u"100"_s, u"120"_s}, {u"120.0"_s, u"120"_s, u"120.0"_s}, {u"9"_s, u"10"_s, u"10"_s},
-        {u"abc"_s, u"0"_s, u"0"_s},     {u"5"_s, u"x"_s, u"5"_s},           {u"5"_s, u" 6 "_s, u"6"_s},
+        {u"120"_s, u"100"_s, u"120"_s},
+        {u"120.0"_s, u"120"_s, u"120.0"_s},
+        {u"9"_s, u"10"_s, u"10"_s},
+        {u"abc"_s, u"0"_s, u"0"_s},
+        {u"5"_s, u"x"_s, u"5"_s},
+        {u"5"_s, u" 6 "_s, u"6"_s},
+        {u"inf"_s, u"5"_s, u"5"_s},
+        {u"nan"_s, u"5"_s, u"5"_s},
+        {u"1e999"_s, u"5"_s, u"5"_s},
+        {u"0x10"_s, u"5"_s, u"5"_s},
+        {u"12x"_s, u"5"_s, u"5"_s},
+        {u"1,000"_s, u"5"_s, u"5"_s},
+        {u""_s, u"1e15"_s, u"1000000000000000"_s},
     };
     for (const auto& [stored, score, best] : rows) {
         SCOPED_TRACE(testing::PrintToString(stored) + " and " + testing::PrintToString(score));

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/faults/faults.h"
+#include "tests/settings/faults.h"
 
-#include <array>
 #include <cerrno>
-#include <functional>
+#include <climits>
+#include <filesystem>
 #include <set>
-#include <string>
 #include <tuple>
 #include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "settings/best_scores.h"
@@ -20,60 +20,80 @@
 namespace {
 
 using namespace faults;
+using testing::AnyOf;
+using testing::Contains;
 
-// From then on, or once; but no system interrupts for ever.
-constexpr std::array<std::pair<int, bool>, 7> kinds{
-    {{ENOSPC, true}, {ENOSPC, false}, {EIO, true}, {EIO, false}, {cutShort, true}, {cutShort, false}, {EINTR, false}}};
+using Names = std::set<std::string>;
+
+/// What a program finds when it starts.
+struct Start {
+    QByteArray file;
+    QByteArray backup;
+    int immovable = 0;  // as in Plan
+    QByteArray rejected = "(missing)";
+};
+
+std::vector<Start> starts() {
+    const QByteArray whole = "[init]\nx=y\nCol=30\n0=120\n1=50\n";
+    return {{whole, ""}, {"junk", whole, 0, "junk"}, {"", whole}, {whole, "", EXDEV}};
+}
+
+QByteArray stored(const Folder& folder) {
+    const bool isInBackup = plan().immovable != 0 && !settings::isIniFile(folder.bytes());
+    return folder.bytes(isInBackup ? u".bak"_s : QString());
+}
 
 struct Game {
-    /// Plays over a file that a person has written, and its backup, while operations fail as planned. Returns what is
-    /// stored before and after each change.
-    std::vector<QByteArray> play(const QByteArray& file, const QByteArray& backup, const Plan& planned) {
-        folder.put(file);
-        folder.put(backup, u".bak"_s);
+    /// Changes the settings while operations fail as planned. Returns what was stored before and after each change.
+    const std::vector<QByteArray>& play(const Plan& planned) {
+        folder.put(start.file);
+        folder.put(start.backup, u".bak"_s);
         QFile::setPermissions(folder.ini, QFile::Permissions::fromInt(0x604));
         plan() = planned;
+        plan().immovable = start.immovable;
         settings::BestScores scores(store, 5);
-        const std::vector<std::function<void()>> changes{
-            [&] { scores.load(); },
-            [&] { scores.raise(0, u"130"_s); },
-            [&] { store.write(init, col, u"40"_s); },
-            [&] { scores.raise(3, u"7"_s); },
-            [&] { scores.reset(1); },
-            [&] { store.flush(); },
-        };
-        std::vector<QByteArray> files{file};
-        for (const auto& change : changes) {
-            plan().folder = folder.folder.path().toStdString();
+        const auto after = [&](auto change) {
+            plan().folder = folder.path();
             change();
             plan().folder.clear();
-            const bool isBackup = planned.immovable != 0 && !settings::isIniFile(folder.bytes());
-            files.push_back(folder.bytes(isBackup ? u".bak"_s : QString()));
-        }
+            files.push_back(stored(folder));
+        };
+        after([&] { scores.load(); });
+        after([&] { scores.raise(0, u"130"_s); });
+        after([&] { store.write(init, col, u"40"_s); });
+        after([&] { scores.raise(3, u"7"_s); });
+        after([&] { scores.reset(1); });
+        after([&] { store.flush(); });
         return files;
     }
 
+    Start start;
     Folder folder;
     settings::Store store{folder.ini};
+    std::vector<QByteArray> files{start.file};
+};
+
+struct Faults : testing::Test {
+    void TearDown() override { plan() = {}; }
 };
 
 /// Strikes each operation of the game in turn. Returns their names.
-std::set<std::string> strikeEach(const QByteArray& file, const QByteArray& backup, Plan planned) {
-    const std::vector<QByteArray> files = Game().play(file, backup, {});
-    std::set<std::string> struck;
-    for (planned.first = 1;; ++planned.first) {
-        Game game;
-        const std::vector<QByteArray> found = game.play(file, backup, planned);
-        SCOPED_TRACE(testing::Message() << "operation " << planned.first << ", " << plan().struck);
-        for (const QByteArray& now : found) {
-            EXPECT_TRUE(std::ranges::find(files, now) != files.end()) << testing::PrintToString(now);
+Names strikeEach(const Start& start, int fault, bool isLasting) {
+    const std::vector<QByteArray> whole = Game{start}.play({});
+    Names struck;
+    for (int first = 1;; ++first) {
+        Game game{start};
+        game.play({.first = first, .last = isLasting ? INT_MAX : first, .fault = fault});
+        SCOPED_TRACE(testing::Message() << "operation " << first << ", " << plan().struck);
+        for (const QByteArray& now : game.files) {
+            EXPECT_THAT(whole, Contains(now));
         }
-        EXPECT_TRUE(plan().seen > planned.first || plan().struck != "fsync") << "not tried again";
+        EXPECT_TRUE(plan().seen > first || plan().struck != "fsync") << "not tried again";
         EXPECT_TRUE(QFile::permissions(game.folder.ini) & 0x4) << "the mode is lost";
         EXPECT_EQ(game.store.read(init, u"0"_s, none), u"130"_s);
         game.store.flush();
-        EXPECT_EQ(game.folder.bytes(), files.back());
-        EXPECT_EQ(game.folder.bytes(u".bad"_s), file.startsWith('[') ? "(missing)" : file);
+        EXPECT_EQ(game.folder.bytes(), whole.back());
+        EXPECT_EQ(game.folder.bytes(u".bad"_s), start.rejected);
         if (plan().struck.empty()) {
             return struck;
         }
@@ -81,47 +101,66 @@ std::set<std::string> strikeEach(const QByteArray& file, const QByteArray& backu
     }
 }
 
-TEST(Faults, OfAnyFileOperationLeaveTheOldFileOrTheNewOneAndCostNothing) {
-    const QByteArray whole = "[init]\nx=y\nCol=30\n0=120\n1=50\n";
-    const std::set<std::string> operations{"fchmod", "fdatasync", "flock",  "fsync", "linkat",
-                                           "open",   "read",      "rename", "stat",  "write"};
-    const std::vector<std::tuple<QByteArray, QByteArray, int>> files{
-        {whole, "", 0}, {"junk", whole, 0}, {whole, "", EXDEV}};
-    for (const auto& [file, backup, immovable] : files) {
-        for (const auto& [fault, lasting] : kinds) {
+TEST_F(Faults, OfAnyFileOperationLeaveTheOldFileOrTheNewOneAndCostNothing) {
+    const Names operations{"fchmod", "fdatasync", "flock",  "fsync", "linkat",
+                           "open",   "read",      "rename", "stat",  "write"};
+    // No system interrupts for ever.
+    const std::vector<std::pair<int, bool>> kinds{{ENOSPC, true},   {ENOSPC, false},   {EIO, true},   {EIO, false},
+                                                  {cutShort, true}, {cutShort, false}, {EINTR, false}};
+    for (const Start& start : starts()) {
+        for (const auto& [fault, isLasting] : kinds) {
             SCOPED_TRACE(testing::Message()
-                         << fault << (lasting ? " for ever, " : " once, ") << file.toStdString() << immovable);
-            EXPECT_EQ(strikeEach(file, backup, {.lasting = lasting, .fault = fault, .immovable = immovable}),
-                      operations);
+                         << start.file.toStdString() << start.immovable << ", " << fault << isLasting);
+            EXPECT_EQ(strikeEach(start, fault, isLasting), operations);
         }
     }
 }
 
-TEST(Faults, OfTheDiskAloneHoldASaveBackUntilTheyAreGone) {
-    const QByteArray old = "[init]\n0=120";
-    const std::vector<QByteArray> files = Game().play(old, "", {});
-    const std::vector<std::tuple<std::set<std::string>, std::set<int>, bool>> rows{
-        {{"read"}, {cutShort}, true},
-        {{"fchmod", "fdatasync", "fsync"}, {EIO, ENOSPC, EDQUOT, EROFS}, true},
-        {{"fchmod", "fdatasync", "fsync"}, {EPERM, EACCES, EINVAL, ENOSYS, EOPNOTSUPP}, false},
-        {{"flock"}, {ENOLCK, ENOSYS, EOPNOTSUPP}, false},
+TEST_F(Faults, OfTheDiskAloneHoldASaveBackUntilTheyAreGone) {
+    const Start start{"[init]\n0=120", ""};
+    const std::vector<QByteArray> saved = Game{start}.play({});
+    const std::vector<QByteArray> heldBack(saved.size(), start.file);
+    const std::set<int> ofTheDisk{EIO, ENOSPC, EDQUOT, EROFS};
+    const std::vector<std::tuple<Names, std::set<int>, std::vector<QByteArray>, bool>> rows{
+        {{"fchmod", "fdatasync"}, ofTheDisk, heldBack, true},
+        {{"fsync"}, ofTheDisk, saved, true},  // of the folder, in which the new bytes have their place already
+        {{"fchmod", "fdatasync", "fsync"}, {EPERM, EACCES, EINVAL, ENOSYS, EOPNOTSUPP}, saved, false},
+        {{"flock"}, {ENOLCK, ENOSYS, EOPNOTSUPP}, saved, false},
     };
-    for (const auto& [operations, faults, isOfTheDisk] : rows) {
+    for (const auto& [operations, faults, files, isSavedAgain] : rows) {
         for (const std::string& operation : operations) {
             for (const int fault : faults) {
                 SCOPED_TRACE(testing::Message() << operation << " reports " << fault);
-                Game game;
-                const auto found = game.play(old, "", {.first = 1, .lasting = true, .fault = fault, .only = operation});
-                // The folder is synced when the new bytes have their place.
-                EXPECT_EQ(found, isOfTheDisk && operation != "fsync" ? std::vector(files.size(), old) : files);
-                plan() = {.folder = game.folder.folder.path().toStdString(), .only = "fsync"};
+                Game game{start};
+                EXPECT_EQ(game.play({.only = operation, .last = INT_MAX, .fault = fault}), files);
+                plan() = {.folder = game.folder.path(), .only = "fsync"};
                 game.store.flush();
-                EXPECT_EQ(plan().seen > 0, isOfTheDisk) << "what a power cut may undo is saved again";
+                EXPECT_EQ(plan().seen > 0, isSavedAgain) << "what a power cut may undo";
             }
         }
     }
-    Game().play(old, "", {.immovable = EBUSY, .only = "fsync"});
+    Game{{start.file, "", EBUSY}}.play({.only = "fsync"});
     EXPECT_EQ(plan().seen, 4 * 4) << "syncs of four saves in place";
+}
+
+TEST_F(Faults, AKillAtAnyFileOperationLeavesTheOldFileOrTheNewOneAndTheNextSaveTidiesUp) {
+    for (const Start& start : starts()) {
+        const std::vector<QByteArray> whole = Game{start}.play({});
+        Game game{start};
+        const auto kill = [&] {
+            SCOPED_TRACE(testing::Message() << start.file.toStdString() << ", operation " << plan().seen);
+            const Folder left;
+            std::filesystem::copy(game.folder.path(), left.path());
+            const QByteArray now = stored(left);
+            EXPECT_THAT(now, AnyOf(game.files.back(), whole[game.files.size()]));
+            settings::Store(left.ini).raise(init, u"4"_s, u"1"_s);
+            const QByteArray& read = settings::isIniFile(now) ? now : start.backup;
+            EXPECT_EQ(left.bytes(), settings::withValue(read, init, u"4"_s, u"1"_s));
+            EXPECT_EQ(left.bytes(u".bad"_s), start.rejected);
+            EXPECT_FALSE(left.names().contains(u".part"_s)) << left.names().toStdString();
+        };
+        game.play({.last = INT_MAX, .meanwhile = kill});
+    }
 }
 
 }  // namespace

@@ -4,12 +4,12 @@
 #pragma once
 
 #include <ostream>
+#include <string>
 
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QString>
-#include <QStringList>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -33,8 +33,10 @@ struct Folder {
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
     }
 
-    QStringList names() const {
-        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+    std::string path() const { return folder.path().toStdString(); }
+
+    QString names() const {
+        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).join(u' ');
     }
 
     QTemporaryDir folder;

@@ -19,31 +19,25 @@ TEST(IniFile, ReadsWhatAPersonMayWrite) {
         {"\xEF\xBB\xBF[init]\nCol=30", u"30"_s},
         {"; ours\r\n\r\n  [ init ] \r\n\t Col \t=  30 \r\n", u"30"_s},
         {"[init]\nCol=1\nCol=2\n[other]\nCol=3\n[init]\nCol=4\n", u"4"_s},
+        {"[init]\nCol=30\nLi", u"30"_s},
         {"[init]\nCol=\n", u""_s},
         {"Col=1\n[Init]\nCol=2\n[init\nCol=3\n", none},
         {"[init]\n;Col=1\n#Col=2\ncol=3\nCol\n", none},
+        {"\xEF\xBB\xBF# mine", none},
         {"[init]\nCol==a=b;c#d\n", u"=a=b;c#d"_s},
         {"[init]\nCol=C:\\new\\u41\n", u"C:\\new\\u41"_s},
         {"[init]\nCo\\u006c=\\\\n\\u000a\\u0020\n", u"\\n\n "_s},
     };
     for (const auto& [file, value] : rows) {
+        EXPECT_TRUE(isIniFile(file)) << testing::PrintToString(file);
         EXPECT_EQ(valueIn(file, init, col).value_or(none), value) << testing::PrintToString(file);
     }
 }
 
-TEST(IniFile, ChangesOneLineAndNoOther) {
-    const std::vector<std::pair<QByteArray, QByteArray>> rows = {
-        {"[init]\n  Col = 30", "[init]\n  Col = 30"},
-        {"[init]", "[init]\nCol=30\n"},
-        {"\xEF\xBB\xBF#junk", "\xEF\xBB\xBF#junk\n[init]\nCol=30\n"},
-        {"\xEF\xBB\xBF[init]\r\nCol=1\r\nLig=2", "\xEF\xBB\xBF[init]\r\nCol=30\r\nLig=2"},
-        {"[init]\nCol=1\nCol=2", "[init]\nCol=1\nCol=30\n"},
-        {"[init]\nLig=2\n\n; notes\n[more]\nx=y\n", "[init]\nLig=2\nCol=30\n\n; notes\n[more]\nx=y\n"},
-    };
-    for (const auto& [before, after] : rows) {
-        EXPECT_TRUE(isIniFile(before)) << testing::PrintToString(before);
-        EXPECT_EQ(withValue(before, init, col, u"30"_s), after) << testing::PrintToString(before);
-    }
+TEST(IniFile, GetsANewLineAtTheEndOfItsSectionAndKeepsItsLineBreaks) {
+    EXPECT_EQ(withValue("[init]\nLig=2\n\n; notes\n[more]\nx=y\n", init, col, u"30"_s),
+              "[init]\nLig=2\nCol=30\n\n; notes\n[more]\nx=y\n");
+    EXPECT_EQ(withValue("[init]\r\nCol=1\r\nLig=2", init, col, u"30"_s), "[init]\r\nCol=30\r\nLig=2");
 }
 
 TEST(IniFile, IsNoGarbage) {

@@ -1,23 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Zampotine developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/faults/faults.h"
+#include "tests/settings/faults.h"
 
-#include <array>
 #include <cerrno>
-#include <chrono>
-#include <climits>
 #include <cstdarg>
-#include <cstdio>
-#include <cstdlib>
-#include <fstream>
-#include <mutex>
-#include <sstream>
+#include <filesystem>
 #include <string_view>
-#include <thread>
+#include <utility>
 
 #include <dlfcn.h>
-#include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -28,58 +20,43 @@
 namespace faults {
 
 Plan& plan() {
-    static Plan plan = [] {
-        Plan made;
-        const char* text = std::getenv("FAULTS");
-        std::istringstream(text != nullptr ? text : "") >> made.folder >> made.first >> made.lasting >> made.fault >>
-            made.log;
-        return made;
-    }();
+    static Plan plan;
     return plan;
 }
 
 namespace {
 
-/// What strikes this operation on a path: an errno, `cutShort`, or 0 for nothing. Allocates and locks nothing for other
-/// paths, to which a signal handler may write.
+/// The fault that strikes this operation: an errno, `cutShort`, or 0 for none.
 int faultOf(const char* operation, std::string_view path) {
     Plan& now = plan();
-    const std::size_t length = now.folder.size();
-    const bool isInFolder = path.starts_with(now.folder) && (path.size() == length || path[length] == '/');
-    if (length == 0 || !isInFolder || (!now.only.empty() && now.only != operation)) {
+    if (now.folder.empty() || !path.starts_with(now.folder) || (!now.only.empty() && now.only != operation)) {
         return 0;
     }
-    static std::mutex mutex;
-    const std::lock_guard lock(mutex);
-    if (++now.seen < now.first || (now.seen > now.first && !now.lasting)) {
+    ++now.seen;
+    if (now.seen < now.first || now.seen > now.last) {
         return 0;
     }
     if (now.struck.empty()) {
         now.struck = operation;
-        std::ofstream(now.log) << operation;
     }
-    if (now.fault == slow) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        return 0;
-    }
+    std::string folder = std::exchange(now.folder, "");  // `meanwhile` is not struck itself
+    now.meanwhile();
+    now.folder = std::move(folder);
     return now.fault;
 }
 
 int faultOf(const char* operation, int descriptor) {
-    std::array<char, 32> link{};
-    std::array<char, PATH_MAX> path{};
-    std::snprintf(link.data(), link.size(), "/proc/self/fd/%d", descriptor);
-    const auto length = readlink(link.data(), path.data(), path.size());
-    return length < 0 ? 0 : faultOf(operation, {path.data(), static_cast<std::size_t>(length)});
+    std::error_code error;
+    const auto path = std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(descriptor), error);
+    return faultOf(operation, path.native());
 }
 
-/// What a call returns that fails. What cannot be done by half fails in full where it is to be cut short.
+/// The result of a call that fails. A call that cannot be cut short fails instead.
 int failure(int fault) {
     errno = fault == cutShort ? EIO : fault;
     return -1;
 }
 
-/// The call itself, or its failure, by what strikes this operation on a path or descriptor.
 template <typename Function, typename... Arguments>
 auto call(const char* name, auto where, Function* function, Arguments... arguments) {
     const int fault = faultOf(name, where);
@@ -87,8 +64,6 @@ auto call(const char* name, auto where, Function* function, Arguments... argumen
     return fault != 0 ? failure(fault) : function(arguments...);
 }
 
-/// A read or write of `size` bytes, or of as many as the fault leaves; by the system call itself, for a signal handler
-/// writes, and might look its function up in the middle of another such search.
 template <typename Bytes>
 ssize_t transfer(const char* name, long number, int descriptor, Bytes* bytes, size_t size) {
     const int fault = faultOf(name, descriptor);
@@ -99,7 +74,7 @@ ssize_t transfer(const char* name, long number, int descriptor, Bytes* bytes, si
 }  // namespace
 }  // namespace faults
 
-// NOLINTBEGIN(cert-dcl50-cpp,readability-inconsistent-declaration-parameter-name): they are the system's
+// NOLINTBEGIN(cert-dcl50-cpp,readability-inconsistent-declaration-parameter-name): these are the system's names
 extern "C" {
 
 int open(const char* path, int flags, ...) {

@@ -94,7 +94,8 @@ struct Storm : World {
         const Qt::Key key = oneOf(keys);
         const auto modifier = draw(3) == 0 ? Qt::ControlModifier : Qt::NoModifier;
         mayHaveReset |= key == Qt::Key_Delete && modifier == Qt::ControlModifier;
-        QTest::sendKeyEvent(QTest::Click, shown()->windowHandle(), key, QChar(key & 127), modifier);
+        QWidget* target = shown()->focusWidget() == nullptr ? shown() : shown()->focusWidget();
+        QTest::sendKeyEvent(QTest::Click, target, key, QChar(key & 127), modifier);
     }
     /// A screen reader acts on the cell that it found last, which may be of an earlier board, and finds another one.
     void useScreenReader() {

@@ -7,11 +7,11 @@
 #include <climits>
 #include <filesystem>
 #include <set>
+#include <string>
 #include <tuple>
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "settings/best_scores.h"
 #include "settings/ini_file.h"
@@ -22,8 +22,6 @@ namespace {
 using namespace faults;
 using testing::AnyOf;
 using testing::Contains;
-
-using Names = std::set<std::string>;
 
 /// What a program finds when it starts.
 struct Start {
@@ -77,11 +75,12 @@ struct Faults : testing::Test {
     void TearDown() override { plan() = {}; }
 };
 
-/// Strikes each operation of the game in turn. Returns their names.
-Names strikeEach(const Start& start, int fault, bool isLasting) {
+/// Strikes each operation of the game in turn: this one alone, or all later ones, too.
+void strikeEach(const Start& start, int fault, bool isLasting) {
     const std::vector<QByteArray> whole = Game{start}.play({});
-    Names struck;
-    for (int first = 1;; ++first) {
+    int first = 0;
+    do {
+        ++first;
         Game game{start};
         game.play({.first = first, .last = isLasting ? INT_MAX : first, .fault = fault});
         SCOPED_TRACE(testing::Message() << "operation " << first << ", " << plan().struck);
@@ -94,24 +93,18 @@ Names strikeEach(const Start& start, int fault, bool isLasting) {
         game.store.flush();
         EXPECT_EQ(game.folder.bytes(), whole.back());
         EXPECT_EQ(game.folder.bytes(u".bad"_s), start.rejected);
-        if (plan().struck.empty()) {
-            return struck;
-        }
-        struck.insert(plan().struck);
-    }
+    } while (!plan().struck.empty());
+    EXPECT_GT(first, 60) << "the functions of the system are not replaced";
 }
 
 TEST_F(Faults, OfAnyFileOperationLeaveTheOldFileOrTheNewOneAndCostNothing) {
-    const Names operations{"fchmod", "fdatasync", "flock",  "fsync", "linkat",
-                           "open",   "read",      "rename", "stat",  "write"};
-    // No system interrupts for ever.
-    const std::vector<std::pair<int, bool>> kinds{{ENOSPC, true},   {ENOSPC, false},   {EIO, true},   {EIO, false},
-                                                  {cutShort, true}, {cutShort, false}, {EINTR, false}};
     for (const Start& start : starts()) {
-        for (const auto& [fault, isLasting] : kinds) {
-            SCOPED_TRACE(testing::Message()
-                         << start.file.toStdString() << start.immovable << ", " << fault << isLasting);
-            EXPECT_EQ(strikeEach(start, fault, isLasting), operations);
+        for (const int fault : {ENOSPC, EIO, cutShort, EINTR}) {
+            SCOPED_TRACE(testing::Message() << start.file.toStdString() << start.immovable << ", " << fault);
+            strikeEach(start, fault, false);
+            if (fault != EINTR) {  // no system interrupts for ever
+                strikeEach(start, fault, true);
+            }
         }
     }
 }
@@ -121,7 +114,7 @@ TEST_F(Faults, OfTheDiskAloneHoldASaveBackUntilTheyAreGone) {
     const std::vector<QByteArray> saved = Game{start}.play({});
     const std::vector<QByteArray> heldBack(saved.size(), start.file);
     const std::set<int> ofTheDisk{EIO, ENOSPC, EDQUOT, EROFS};
-    const std::vector<std::tuple<Names, std::set<int>, std::vector<QByteArray>, bool>> rows{
+    const std::vector<std::tuple<std::set<std::string>, std::set<int>, std::vector<QByteArray>, bool>> rows{
         {{"fchmod", "fdatasync"}, ofTheDisk, heldBack, true},
         {{"fsync"}, ofTheDisk, saved, true},  // of the folder, in which the new bytes have their place already
         {{"fchmod", "fdatasync", "fsync"}, {EPERM, EACCES, EINVAL, ENOSYS, EOPNOTSUPP}, saved, false},

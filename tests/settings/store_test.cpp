@@ -115,6 +115,7 @@ TEST_F(StoreTest, AResetAndClosingWaitForAnotherCopysSave) {
     plan().meanwhile = [&] { folder.put("[init]\n0=300\n"); };
     closing.raise(init, u"1"_s, u"5"_s);
     closing.flush();
+    EXPECT_EQ(plan().seen, 10) << "it does not wait";
     EXPECT_EQ(folder.bytes(), "[init]\n0=300\n1=5\n");
 }
 

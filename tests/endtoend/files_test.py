@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Zampotine developers
 # SPDX-License-Identifier: MIT
 
-"""Starts and ends the real program over files with odd values, on full disks and in odd home folders."""
+"""Starts and ends the real program with odd values and homes, on a full disk, and beside another copy."""
+import fcntl
 import re
 import resource
 
@@ -34,6 +35,14 @@ class Files(Case):
                     self.run_once(desktop, "prlimit", "--fsize=0:unlimited", meanwhile=change_limit)
                     self.assertEqual((desktop.home / INI).read_text(), stored)
 
+    def test_locks(self):
+        """While another copy keeps the lock, the program saves nothing until it ends."""
+        with self.desktop() as desktop, open(desktop.home / f"{INI}.lock", "w") as lock:
+            fcntl.flock(lock, fcntl.LOCK_EX)
+            (desktop.home / INI).write_text(SETTINGS)
+            self.run_once(desktop)
+            self.assertEqual((desktop.home / INI).read_text(), CORRECTED)
+
     def test_values(self):
         with self.desktop() as desktop:
             for value, level, sound, best in (
@@ -52,7 +61,8 @@ class Files(Case):
 
     def test_homes(self):
         for changes, folders in ((["XDG_CONFIG_HOME=relative"], [".config"]), (["XDG_CONFIG_HOME="], [".config"]),
-                                 (["-u", "XDG_CONFIG_HOME"], [".config"]), (["-u", "HOME", "XDG_CONFIG_HOME="], [])):
+                                 (["-u", "XDG_CONFIG_HOME"], [".config"]), (["-u", "HOME", "XDG_CONFIG_HOME="], []),
+                                 (["HOME=relative", "XDG_CONFIG_HOME="], [])):
             with self.subTest(changes=changes), self.desktop() as desktop:
                 self.run_once(desktop, "env", *changes)
                 self.assertEqual([file.parent.name for file in desktop.home.rglob(INI)], folders)

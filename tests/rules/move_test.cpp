@@ -3,26 +3,74 @@
 
 #include "rules/move.h"
 
+#include <string>
+
 #include "rules/deal.h"
+#include "rules/group.h"
 #include "rules/sound_choice.h"
 #include "tests/rules/board_text.h"
-#include "tests/rules/moves.h"
+#include "tests/rules/plain.h"
 
 namespace rules {
 namespace {
+
+// Writes down what a move tells the window.
+struct Recorder : Host {
+    explicit Recorder(const Game& recorded) : game(recorded) {}
+
+    const Game& game;
+    std::string events;
+    std::vector<CellIndex> removed;
+    Landings landings;
+
+    void cellCleared(CellIndex i) override {
+        removed.push_back(i);
+        events += std::to_string(i);
+    }
+    void yield() override { events += " yield "; }
+    void scoreChanged() override { events += "[" + std::to_string(game.score) + "] "; }
+    void lastMoveChanged(std::string_view text) override { events.append(text) += ' '; }
+    void remainingChanged(std::string_view text) override { events.append(text); }
+    void PlayWave(std::string_view file) override { events.append(file) += ' '; }
+    void boardSettled(const Landings& places) override {
+        landings = places;
+        events += " settled ";
+    }
+    void gameEnded() override { events += "ended"; }
+};
+
+// Presses cell i, which need not be on the board.
+plain::Outcome press(Game& game, int i) {
+    const int size = game.board.contains(i) ? groupSizes(game.board)[i] : 0;
+    Recorder host(game);
+    playMove(game, i, host);
+    return {size, host.removed, host.landings, game.board};
+}
+
+CellIndex anyCell(const Game& game, Random& random) {
+    return static_cast<CellIndex>(random() * static_cast<float>(game.NBBoules));
+}
+
+std::int16_t ballsOn(const Board& board) {
+    return static_cast<std::int16_t>(std::ssize(board.cells) - std::ranges::count(board.cells, Code::none));
+}
 
 TEST(Games, GoAsByThePlainRulesFromThousandsOfSeeds) {
     for (int seed = 0; seed < 4000; ++seed) {
         Random random(static_cast<std::uint64_t>(seed));
         Game game{.board = emptyBoard(1 + seed % 13, 1 + seed % 11)};
         deal(game, seed % 5, std::ref(random));
+        for (int holes = seed % 3 * game.NBBoules / 4; holes > 0; --holes) {
+            game.board[anyCell(game, random)] = Code::none;
+        }
+        game.Total = ballsOn(game.board);
         for (int presses = 0; presses < 2 * game.NBBoules; ++presses) {
-            const auto i = static_cast<CellIndex>(random() * static_cast<float>(game.NBBoules));
+            const CellIndex i = anyCell(game, random);
             ASSERT_EQ(groupSize(game.board, i), groupSizes(game.board)[i]);
             ASSERT_EQ(hasGroup(game.board), std::ranges::max(groupSizes(game.board)) > 1);
             const plain::Outcome plain = plain::press(game.board, i);
             ASSERT_EQ(press(game, i), plain) << "seed " << seed << ", cell " << i;
-            ASSERT_EQ(game.Total, game.NBBoules - std::ranges::count(game.board.cells, Code::none));
+            ASSERT_EQ(game.Total, ballsOn(game.board));
         }
     }
 }
@@ -44,6 +92,9 @@ TEST(Move, EventsComeInTheOrderThePlayerSeesThem) {
 
 TEST(Move, LargestGroupIsRemovedWithoutRecursion) {
     Game game{.board = {217, 151, std::vector(maxCells, Code::red)}, .Total = maxCells};
+    press(game, -1);
+    press(game, maxCells);
+    EXPECT_EQ(game.score, 0) << "beside the board";
     press(game, 16'000);
     EXPECT_EQ(game.score, 2 * std::int64_t{715'806'037});
 }

@@ -15,6 +15,7 @@ TEST(Keyboard, FirstKeyShowsTheCursorTheNextOnePlaysAndTheMouseHidesIt) {
         const QImage withoutCursor = look();
         world.key(key);
         EXPECT_NE(look(), withoutCursor);
+        world.key(Qt::Key_Left);
         world.hover({20, 40});
         world.hover({20, 41});
         EXPECT_EQ(look(), withoutCursor);

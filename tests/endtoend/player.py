@@ -169,8 +169,9 @@ class Player:
         return self.play(board, min(balls)), model.points(len(balls))
 
     def deal(self):
+        before = self.board()
         self.click(NEW_GAME)
-        self.catch_up()
+        wait_for("another dealt board", lambda: self.board() != before and self.is_full())
         return self.board()
 
     def deal_game(self, balls_left):
@@ -180,10 +181,3 @@ class Player:
             board = self.deal()
             presses, left = model.game(board)
         return board, presses
-
-    def catch_up(self):
-        """Returns once the program has handled all that was done so far."""
-        on = self.is_marked(SOUND_SWITCH)
-        for state in (not on, on):
-            self.act("key", "ctrl+s")
-            wait_for("the sound switch's mark", lambda: self.is_marked(SOUND_SWITCH) == state)

@@ -90,6 +90,7 @@ class EndToEnd(Case):
             reader.wait_to_hear(names(board)[0])
             player.act("key", "Right")
             reader.wait_to_hear(names(board)[1])
+            self.assertNotIn("now: Plateau", reader.heard, "a group was always left")
             score = 0
             for cell in presses:
                 group, before = model.group(board, cell), names(board)

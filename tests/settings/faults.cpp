@@ -101,9 +101,6 @@ int fdatasync(int descriptor) {
 int flock(int descriptor, int operation) noexcept {
     return faults::call("flock", descriptor, &flock, descriptor, operation);
 }
-int linkat(int oldFolder, const char* oldPath, int newFolder, const char* newPath, int flags) noexcept {
-    return faults::call("linkat", newPath, &linkat, oldFolder, oldPath, newFolder, newPath, flags);
-}
 int fchmod(int descriptor, mode_t mode) noexcept {
     return faults::call("fchmod", descriptor, &fchmod, descriptor, mode);
 }

@@ -34,9 +34,7 @@ TEST(IniFile, ReadsWhatAPersonMayWrite) {
     }
 }
 
-TEST(IniFile, GetsANewLineAtTheEndOfItsSectionAndKeepsItsLineBreaks) {
-    EXPECT_EQ(withValue("[init]\nLig=2\n\n; notes\n[more]\nx=y\n", init, col, u"30"_s),
-              "[init]\nLig=2\nCol=30\n\n; notes\n[more]\nx=y\n");
+TEST(IniFile, KeepsItsLineBreaks) {
     EXPECT_EQ(withValue("[init]\r\nCol=1\r\nLig=2", init, col, u"30"_s), "[init]\r\nCol=30\r\nLig=2");
 }
 

@@ -52,7 +52,7 @@ TEST_F(StoreTest, NeedsNoFileAndCreatesItsFolderAtTheFirstSave) {
 }
 
 TEST_F(StoreTest, SavesWholeThroughALinkAndOnlyWhenSomethingChanges) {
-    folder.put("; mine\n[other]\nx=y\n[init]\nLig=2\n", u".real"_s);
+    folder.put("; mine\n[init]\nLig=2\n\n; notes\n[more]\nx=y\n", u".real"_s);
     for (const QString& name :
          {u".real.aBcDeF.part"_s, u".real.backup"_s, u".real.aBcDeFg.part"_s, u".real-aBcDeF.part"_s}) {
         folder.put("[init]\nLig=1", name);
@@ -60,7 +60,7 @@ TEST_F(StoreTest, SavesWholeThroughALinkAndOnlyWhenSomethingChanges) {
     chmod(QFile::encodeName(folder.ini + u".real"_s).constData(), 0640);
     QFile::link(folder.ini + u".real"_s, folder.ini);
     store.write(init, col, u"30"_s);
-    EXPECT_EQ(folder.bytes(u".real"_s), "; mine\n[other]\nx=y\n[init]\nLig=2\nCol=30\n");
+    EXPECT_EQ(folder.bytes(u".real"_s), "; mine\n[init]\nLig=2\nCol=30\n\n; notes\n[more]\nx=y\n");
     EXPECT_EQ(folder.bytes(u".bak"_s), folder.bytes(u".real"_s));
     EXPECT_EQ(QFileInfo(folder.ini).permissions() & 0xFFF, QFile::Permissions::fromInt(0x640));
     EXPECT_EQ(folder.names(),

@@ -63,11 +63,11 @@ class Desktop(contextlib.ExitStack):
             self.start("openbox", "--config-file", home / "openbox.xml", "--startup", "touch ready")
             wait_for("the window manager", (home / "ready").exists)
 
-    def start(self, *command, output=None, errors=None):
+    def start(self, *command, stdin=None, output=None, errors=None):
         """Starts a process, which ends with the desktop. If this process is killed, the kernel ends it."""
         process = self.enter_context(subprocess.Popen(
             ["setpriv", "--pdeathsig", "TERM", *command], env=self.environment, cwd=self.home,
-            stdout=output, stderr=errors))
+            stdin=stdin, stdout=output, stderr=errors))
         self.callback(process.terminate if command[0] == "Xvfb" else process.kill)
         return process
 

@@ -25,7 +25,7 @@ class Soak(Case):
         # Without what malloc puts aside, memory that is in use can be counted to the byte.
         with self.desktop(session={"GLIBC_TUNABLES": "glibc.malloc.tcache_count=0"}) as desktop:
             process = desktop.start(PROGRAM, mode, os.environ.get("ROUNDS", "3"),
-                                    input=subprocess.PIPE, output=subprocess.PIPE)
+                                    stdin=subprocess.PIPE, output=subprocess.PIPE)
             window = wait_for("the window", lambda: desktop.xdotool("search", "--onlyvisible", "--pid", process.pid))
             display = Display(desktop.environment["DISPLAY"])
             samples = []

@@ -70,4 +70,19 @@ TEST(HoverAndDrag, DragLastsFromThePressToTheReleaseOfItsButton) {
     EXPECT_EQ(world.game().board, boardOf("b. b.")) << "this press shows that the window has missed a release";
 }
 
+TEST(Buttons, ClickIsALeftPressAndReleaseOnTheSameButton) {
+    World world;
+    world.open();
+    world.seed = 7;
+    const rules::Board before = world.game().board;
+    auto* picture = world.control<QWidget>("ImBTN", 0);
+    QTest::mouseClick(picture, Qt::RightButton);
+    QTest::mousePress(picture, Qt::LeftButton);
+    QTest::mouseRelease(picture, Qt::LeftButton, {}, {-20, 5});
+    QTest::mouseRelease(picture, Qt::LeftButton);
+    EXPECT_EQ(world.game().board, before);
+    QTest::mouseClick(picture, Qt::LeftButton);
+    EXPECT_NE(world.game().board, before);
+}
+
 }  // namespace mainwindow

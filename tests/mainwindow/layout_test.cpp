@@ -29,7 +29,7 @@ TEST(Layout, EveryTextIsWholeAndInFront) {
     expectWholeText(*line, font);
 }
 
-TEST(NewGame, WindowAfterASecondGameIsThatOfAFirstOne) {
+TEST(Layout, OfASecondGameIsThatOfAFirstOne) {
     World first;
     first.set("Col", "12");
     first.set("Lig", "16");
@@ -44,21 +44,6 @@ TEST(NewGame, WindowAfterASecondGameIsThatOfAFirstOne) {
         world.command(0);
         EXPECT_EQ(world.window->grab().toImage(), first.window->grab().toImage()) << "after " << size;
     }
-}
-
-TEST(NewGame, ClickIsALeftPressAndReleaseOnTheSameButton) {
-    World world;
-    world.open();
-    world.seed = 7;
-    const rules::Board before = world.game().board;
-    auto* picture = world.control<QWidget>("ImBTN", 0);
-    QTest::mouseClick(picture, Qt::RightButton);
-    QTest::mousePress(picture, Qt::LeftButton);
-    QTest::mouseRelease(picture, Qt::LeftButton, {}, {-20, 5});
-    QTest::mouseRelease(picture, Qt::LeftButton);
-    EXPECT_EQ(world.game().board, before);
-    QTest::mouseClick(picture, Qt::LeftButton);
-    EXPECT_NE(world.game().board, before);
 }
 
 }  // namespace mainwindow

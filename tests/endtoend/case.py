@@ -14,6 +14,7 @@ import unittest
 from desktop import Desktop
 from player import Player
 
+SOUNDS = pathlib.Path(__file__).resolve().parents[2] / "assets" / "sounds"
 PROGRAM, FOLDER = (pathlib.Path(path).resolve() for path in sys.argv[1:3])
 
 

@@ -3,18 +3,15 @@
 # SPDX-License-Identifier: MIT
 
 """Plays the real program on a real X display: with pointer and keys, with a screen reader, and on finer screens."""
-import pathlib
-
 import numpy as np
 from PIL import Image
 
 import model
-from case import PROGRAM, Case, main
+from case import PROGRAM, SOUNDS, Case, main
 from desktop import PATIENCE, wait_for
 from player import BACK, BACKGROUND, COLOURS, MAIL, SIX_COLOURS, SITE, SOUND_SWITCH, Player, centre
 from screen_reader import ScreenReader, names
 
-SOUNDS = pathlib.Path(__file__).resolve().parents[2] / "assets" / "sounds"
 SOUND_UP_TO = {2: "son2.WAV", 10: "son5.WAV", 50: "son10.WAV", 80: "son50.WAV", 1200: "son80.WAV"}  # balls
 SMALL = "Col=8\nLig=14\nSon=0\n"
 LARGE = "Col=25\nLig=20\nSon=0\n"

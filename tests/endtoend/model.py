@@ -7,6 +7,7 @@ A board is a tuple of columns from left to right, each a text from top to bottom
 the colour's letter, or "." for an empty cell. Cells are (column, row) pairs counted from the top left.
 """
 
+
 def text(board):
     return "\n".join("".join(row) for row in zip(*board))
 

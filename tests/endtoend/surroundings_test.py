@@ -9,12 +9,11 @@ import pathlib
 import socket
 import subprocess
 
-from case import PROGRAM, Case, main
+from case import PROGRAM, SOUNDS, Case, main
 from desktop import PATIENCE, wait_for
 from player import BACKGROUND, NEW_GAME, Player
 
 SETTINGS = "Col=25\nLig=20\nNiveau=4\nSon=1\n"
-SOUNDS = pathlib.Path(__file__).resolve().parents[2] / "assets" / "sounds"
 
 
 def greet(server, greeting):
